@@ -5,460 +5,430 @@
 #include "platform/base/WinTypes.h"
 
 // Window messages.
-enum : UINT {
-    WM_NULL = 0x0000,
-    WM_CREATE = 0x0001,
-    WM_DESTROY = 0x0002,
-    WM_MOVE = 0x0003,
-    WM_SIZE = 0x0005,
-    WM_ACTIVATE = 0x0006,
-    WM_SETFOCUS = 0x0007,
-    WM_KILLFOCUS = 0x0008,
-    WM_ENABLE = 0x000A,
-    WM_SETREDRAW = 0x000B,
-    WM_SETTEXT = 0x000C,
-    WM_GETTEXT = 0x000D,
-    WM_GETTEXTLENGTH = 0x000E,
-    WM_PAINT = 0x000F,
-    WM_CLOSE = 0x0010,
-    WM_QUIT = 0x0012,
-    WM_ERASEBKGND = 0x0014,
-    WM_SYSCOLORCHANGE = 0x0015,
-    WM_SHOWWINDOW = 0x0018,
-    WM_SETCURSOR = 0x0020,
-    WM_MOUSEACTIVATE = 0x0021,
-    WM_GETMINMAXINFO = 0x0024,
-    WM_NEXTDLGCTL = 0x0028,
-    WM_DRAWITEM = 0x002B,
-    WM_SETFONT = 0x0030,
-    WM_GETFONT = 0x0031,
-    WM_WINDOWPOSCHANGED = 0x0047,
-    WM_NOTIFY = 0x004E,
-    WM_NCCREATE = 0x0081,
-    WM_NCDESTROY = 0x0082,
-    WM_NCHITTEST = 0x0084,
-    WM_NCPAINT = 0x0085,
-    WM_GETDLGCODE = 0x0087,
-    WM_KEYDOWN = 0x0100,
-    WM_KEYUP = 0x0101,
-    WM_CHAR = 0x0102,
-    WM_SYSKEYDOWN = 0x0104,
-    WM_SYSKEYUP = 0x0105,
-    WM_SYSCHAR = 0x0106,
-    WM_INITDIALOG = 0x0110,
-    WM_COMMAND = 0x0111,
-    WM_SYSCOMMAND = 0x0112,
-    WM_TIMER = 0x0113,
-    WM_HSCROLL = 0x0114,
-    WM_VSCROLL = 0x0115,
-    WM_INITMENUPOPUP = 0x0117,
-    WM_MENUSELECT = 0x011F,
-    WM_ENTERIDLE = 0x0121,
-    WM_CTLCOLORMSGBOX = 0x0132,
-    WM_CTLCOLOREDIT = 0x0133,
-    WM_CTLCOLORLISTBOX = 0x0134,
-    WM_CTLCOLORBTN = 0x0135,
-    WM_CTLCOLORDLG = 0x0136,
-    WM_CTLCOLORSCROLLBAR = 0x0137,
-    WM_CTLCOLORSTATIC = 0x0138,
-    WM_MOUSEMOVE = 0x0200,
-    WM_LBUTTONDOWN = 0x0201,
-    WM_LBUTTONUP = 0x0202,
-    WM_LBUTTONDBLCLK = 0x0203,
-    WM_RBUTTONDOWN = 0x0204,
-    WM_RBUTTONUP = 0x0205,
-    WM_RBUTTONDBLCLK = 0x0206,
-    WM_MBUTTONDOWN = 0x0207,
-    WM_MBUTTONUP = 0x0208,
-    WM_MOUSEWHEEL = 0x020A,
-    WM_CAPTURECHANGED = 0x0215,
-    WM_CUT = 0x0300,
-    WM_COPY = 0x0301,
-    WM_PASTE = 0x0302,
-    WM_CLEAR = 0x0303,
-    WM_UNDO = 0x0304,
-    WM_USER = 0x0400,
-    WM_APP = 0x8000,
-};
+inline constexpr UINT WM_NULL = 0x0000;
+inline constexpr UINT WM_CREATE = 0x0001;
+inline constexpr UINT WM_DESTROY = 0x0002;
+inline constexpr UINT WM_MOVE = 0x0003;
+inline constexpr UINT WM_SIZE = 0x0005;
+inline constexpr UINT WM_ACTIVATE = 0x0006;
+inline constexpr UINT WM_SETFOCUS = 0x0007;
+inline constexpr UINT WM_KILLFOCUS = 0x0008;
+inline constexpr UINT WM_ENABLE = 0x000A;
+inline constexpr UINT WM_SETREDRAW = 0x000B;
+inline constexpr UINT WM_SETTEXT = 0x000C;
+inline constexpr UINT WM_GETTEXT = 0x000D;
+inline constexpr UINT WM_GETTEXTLENGTH = 0x000E;
+inline constexpr UINT WM_PAINT = 0x000F;
+inline constexpr UINT WM_CLOSE = 0x0010;
+inline constexpr UINT WM_QUIT = 0x0012;
+inline constexpr UINT WM_ERASEBKGND = 0x0014;
+inline constexpr UINT WM_SYSCOLORCHANGE = 0x0015;
+inline constexpr UINT WM_SHOWWINDOW = 0x0018;
+inline constexpr UINT WM_SETCURSOR = 0x0020;
+inline constexpr UINT WM_MOUSEACTIVATE = 0x0021;
+inline constexpr UINT WM_GETMINMAXINFO = 0x0024;
+inline constexpr UINT WM_NEXTDLGCTL = 0x0028;
+inline constexpr UINT WM_DRAWITEM = 0x002B;
+inline constexpr UINT WM_SETFONT = 0x0030;
+inline constexpr UINT WM_GETFONT = 0x0031;
+inline constexpr UINT WM_WINDOWPOSCHANGED = 0x0047;
+inline constexpr UINT WM_NOTIFY = 0x004E;
+inline constexpr UINT WM_NCCREATE = 0x0081;
+inline constexpr UINT WM_NCDESTROY = 0x0082;
+inline constexpr UINT WM_NCHITTEST = 0x0084;
+inline constexpr UINT WM_NCPAINT = 0x0085;
+inline constexpr UINT WM_GETDLGCODE = 0x0087;
+inline constexpr UINT WM_KEYDOWN = 0x0100;
+inline constexpr UINT WM_KEYUP = 0x0101;
+inline constexpr UINT WM_CHAR = 0x0102;
+inline constexpr UINT WM_SYSKEYDOWN = 0x0104;
+inline constexpr UINT WM_SYSKEYUP = 0x0105;
+inline constexpr UINT WM_SYSCHAR = 0x0106;
+inline constexpr UINT WM_INITDIALOG = 0x0110;
+inline constexpr UINT WM_COMMAND = 0x0111;
+inline constexpr UINT WM_SYSCOMMAND = 0x0112;
+inline constexpr UINT WM_TIMER = 0x0113;
+inline constexpr UINT WM_HSCROLL = 0x0114;
+inline constexpr UINT WM_VSCROLL = 0x0115;
+inline constexpr UINT WM_INITMENUPOPUP = 0x0117;
+inline constexpr UINT WM_MENUSELECT = 0x011F;
+inline constexpr UINT WM_ENTERIDLE = 0x0121;
+inline constexpr UINT WM_CTLCOLORMSGBOX = 0x0132;
+inline constexpr UINT WM_CTLCOLOREDIT = 0x0133;
+inline constexpr UINT WM_CTLCOLORLISTBOX = 0x0134;
+inline constexpr UINT WM_CTLCOLORBTN = 0x0135;
+inline constexpr UINT WM_CTLCOLORDLG = 0x0136;
+inline constexpr UINT WM_CTLCOLORSCROLLBAR = 0x0137;
+inline constexpr UINT WM_CTLCOLORSTATIC = 0x0138;
+inline constexpr UINT WM_MOUSEMOVE = 0x0200;
+inline constexpr UINT WM_LBUTTONDOWN = 0x0201;
+inline constexpr UINT WM_LBUTTONUP = 0x0202;
+inline constexpr UINT WM_LBUTTONDBLCLK = 0x0203;
+inline constexpr UINT WM_RBUTTONDOWN = 0x0204;
+inline constexpr UINT WM_RBUTTONUP = 0x0205;
+inline constexpr UINT WM_RBUTTONDBLCLK = 0x0206;
+inline constexpr UINT WM_MBUTTONDOWN = 0x0207;
+inline constexpr UINT WM_MBUTTONUP = 0x0208;
+inline constexpr UINT WM_MOUSEWHEEL = 0x020A;
+inline constexpr UINT WM_CAPTURECHANGED = 0x0215;
+inline constexpr UINT WM_CUT = 0x0300;
+inline constexpr UINT WM_COPY = 0x0301;
+inline constexpr UINT WM_PASTE = 0x0302;
+inline constexpr UINT WM_CLEAR = 0x0303;
+inline constexpr UINT WM_UNDO = 0x0304;
+inline constexpr UINT WM_USER = 0x0400;
+inline constexpr UINT WM_APP = 0x8000;
 
 // Window styles.
-enum : DWORD {
-    WS_OVERLAPPED = 0x00000000,
-    WS_POPUP = 0x80000000,
-    WS_CHILD = 0x40000000,
-    WS_MINIMIZE = 0x20000000,
-    WS_VISIBLE = 0x10000000,
-    WS_DISABLED = 0x08000000,
-    WS_CLIPSIBLINGS = 0x04000000,
-    WS_CLIPCHILDREN = 0x02000000,
-    WS_MAXIMIZE = 0x01000000,
-    WS_CAPTION = 0x00C00000,
-    WS_BORDER = 0x00800000,
-    WS_DLGFRAME = 0x00400000,
-    WS_VSCROLL = 0x00200000,
-    WS_HSCROLL = 0x00100000,
-    WS_SYSMENU = 0x00080000,
-    WS_THICKFRAME = 0x00040000,
-    WS_GROUP = 0x00020000,
-    WS_TABSTOP = 0x00010000,
-    WS_MINIMIZEBOX = 0x00020000,
-    WS_MAXIMIZEBOX = 0x00010000,
-    WS_OVERLAPPEDWINDOW = 0x00CF0000,
-    WS_EX_DLGMODALFRAME = 0x00000001,
-    WS_EX_TOPMOST = 0x00000008,
-    WS_EX_TOOLWINDOW = 0x00000080,
-    WS_EX_CLIENTEDGE = 0x00000200,
-    WS_EX_STATICEDGE = 0x00020000,
-    WS_EX_CONTROLPARENT = 0x00010000,
-    WS_EX_NOACTIVATE = 0x08000000,
-};
+inline constexpr DWORD WS_OVERLAPPED = 0x00000000;
+inline constexpr DWORD WS_POPUP = 0x80000000;
+inline constexpr DWORD WS_CHILD = 0x40000000;
+inline constexpr DWORD WS_MINIMIZE = 0x20000000;
+inline constexpr DWORD WS_VISIBLE = 0x10000000;
+inline constexpr DWORD WS_DISABLED = 0x08000000;
+inline constexpr DWORD WS_CLIPSIBLINGS = 0x04000000;
+inline constexpr DWORD WS_CLIPCHILDREN = 0x02000000;
+inline constexpr DWORD WS_MAXIMIZE = 0x01000000;
+inline constexpr DWORD WS_CAPTION = 0x00C00000;
+inline constexpr DWORD WS_BORDER = 0x00800000;
+inline constexpr DWORD WS_DLGFRAME = 0x00400000;
+inline constexpr DWORD WS_VSCROLL = 0x00200000;
+inline constexpr DWORD WS_HSCROLL = 0x00100000;
+inline constexpr DWORD WS_SYSMENU = 0x00080000;
+inline constexpr DWORD WS_THICKFRAME = 0x00040000;
+inline constexpr DWORD WS_GROUP = 0x00020000;
+inline constexpr DWORD WS_TABSTOP = 0x00010000;
+inline constexpr DWORD WS_MINIMIZEBOX = 0x00020000;
+inline constexpr DWORD WS_MAXIMIZEBOX = 0x00010000;
+inline constexpr DWORD WS_OVERLAPPEDWINDOW = 0x00CF0000;
+inline constexpr DWORD WS_EX_DLGMODALFRAME = 0x00000001;
+inline constexpr DWORD WS_EX_TOPMOST = 0x00000008;
+inline constexpr DWORD WS_EX_TOOLWINDOW = 0x00000080;
+inline constexpr DWORD WS_EX_CLIENTEDGE = 0x00000200;
+inline constexpr DWORD WS_EX_STATICEDGE = 0x00020000;
+inline constexpr DWORD WS_EX_CONTROLPARENT = 0x00010000;
+inline constexpr DWORD WS_EX_NOACTIVATE = 0x08000000;
 
 // Class styles.
-enum : UINT {
-    CS_VREDRAW = 0x0001,
-    CS_HREDRAW = 0x0002,
-    CS_DBLCLKS = 0x0008,
-    CS_SAVEBITS = 0x0800,
-};
+inline constexpr UINT CS_VREDRAW = 0x0001;
+inline constexpr UINT CS_HREDRAW = 0x0002;
+inline constexpr UINT CS_DBLCLKS = 0x0008;
+inline constexpr UINT CS_SAVEBITS = 0x0800;
 
 // Dialog styles and codes.
-enum : DWORD {
-    DS_SETFONT = 0x40,
-    DS_MODALFRAME = 0x80,
-    DS_CENTER = 0x0800,
-};
-enum : UINT {
-    DM_GETDEFID = WM_USER + 0,
-    DM_SETDEFID = WM_USER + 1,
-    DC_HASDEFID = 0x534B,
-    DLGC_WANTARROWS = 0x0001,
-    DLGC_WANTTAB = 0x0002,
-    DLGC_WANTALLKEYS = 0x0004,
-    DLGC_WANTMESSAGE = 0x0004,
-    DLGC_HASSETSEL = 0x0008,
-    DLGC_DEFPUSHBUTTON = 0x0010,
-    DLGC_UNDEFPUSHBUTTON = 0x0020,
-    DLGC_RADIOBUTTON = 0x0040,
-    DLGC_WANTCHARS = 0x0080,
-    DLGC_STATIC = 0x0100,
-    DLGC_BUTTON = 0x2000,
-};
-enum : int {
-    IDOK = 1,
-    IDCANCEL = 2,
-    IDABORT = 3,
-    IDRETRY = 4,
-    IDIGNORE = 5,
-    IDYES = 6,
-    IDNO = 7,
-};
+inline constexpr DWORD DS_SETFONT = 0x40;
+inline constexpr DWORD DS_MODALFRAME = 0x80;
+inline constexpr DWORD DS_CENTER = 0x0800;
+inline constexpr UINT DM_GETDEFID = WM_USER + 0;
+inline constexpr UINT DM_SETDEFID = WM_USER + 1;
+inline constexpr UINT DC_HASDEFID = 0x534B;
+inline constexpr UINT DLGC_WANTARROWS = 0x0001;
+inline constexpr UINT DLGC_WANTTAB = 0x0002;
+inline constexpr UINT DLGC_WANTALLKEYS = 0x0004;
+inline constexpr UINT DLGC_WANTMESSAGE = 0x0004;
+inline constexpr UINT DLGC_HASSETSEL = 0x0008;
+inline constexpr UINT DLGC_DEFPUSHBUTTON = 0x0010;
+inline constexpr UINT DLGC_UNDEFPUSHBUTTON = 0x0020;
+inline constexpr UINT DLGC_RADIOBUTTON = 0x0040;
+inline constexpr UINT DLGC_WANTCHARS = 0x0080;
+inline constexpr UINT DLGC_STATIC = 0x0100;
+inline constexpr UINT DLGC_BUTTON = 0x2000;
+inline constexpr int IDOK = 1;
+inline constexpr int IDCANCEL = 2;
+inline constexpr int IDABORT = 3;
+inline constexpr int IDRETRY = 4;
+inline constexpr int IDIGNORE = 5;
+inline constexpr int IDYES = 6;
+inline constexpr int IDNO = 7;
 
 // ShowWindow, SetWindowPos, RedrawWindow, ScrollWindowEx.
-enum : int {
-    SW_HIDE = 0,
-    SW_SHOWNORMAL = 1,
-    SW_SHOWNOACTIVATE = 4,
-    SW_SHOW = 5,
-    SW_SHOWNA = 8,
-};
-enum : UINT {
-    SWP_NOSIZE = 0x0001,
-    SWP_NOMOVE = 0x0002,
-    SWP_NOZORDER = 0x0004,
-    SWP_NOREDRAW = 0x0008,
-    SWP_NOACTIVATE = 0x0010,
-    SWP_SHOWWINDOW = 0x0040,
-    SWP_HIDEWINDOW = 0x0080,
-};
+inline constexpr int SW_HIDE = 0;
+inline constexpr int SW_SHOWNORMAL = 1;
+inline constexpr int SW_SHOWNOACTIVATE = 4;
+inline constexpr int SW_SHOW = 5;
+inline constexpr int SW_SHOWNA = 8;
+inline constexpr UINT SWP_NOSIZE = 0x0001;
+inline constexpr UINT SWP_NOMOVE = 0x0002;
+inline constexpr UINT SWP_NOZORDER = 0x0004;
+inline constexpr UINT SWP_NOREDRAW = 0x0008;
+inline constexpr UINT SWP_NOACTIVATE = 0x0010;
+inline constexpr UINT SWP_SHOWWINDOW = 0x0040;
+inline constexpr UINT SWP_HIDEWINDOW = 0x0080;
 inline const HWND HWND_TOP = nullptr;
 inline const HWND HWND_BOTTOM = reinterpret_cast<HWND>(1);
 inline const HWND HWND_TOPMOST = reinterpret_cast<HWND>(-1);
 inline const HWND HWND_NOTOPMOST = reinterpret_cast<HWND>(-2);
-enum : UINT {
-    RDW_INVALIDATE = 0x0001,
-    RDW_INTERNALPAINT = 0x0002,
-    RDW_ERASE = 0x0004,
-    RDW_VALIDATE = 0x0008,
-    RDW_NOINTERNALPAINT = 0x0010,
-    RDW_NOERASE = 0x0020,
-    RDW_NOCHILDREN = 0x0040,
-    RDW_ALLCHILDREN = 0x0080,
-    RDW_UPDATENOW = 0x0100,
-    RDW_ERASENOW = 0x0200,
-    RDW_FRAME = 0x0400,
-    RDW_NOFRAME = 0x0800,
-    SW_SCROLLCHILDREN = 0x0001,
-    SW_INVALIDATE = 0x0002,
-    SW_ERASE = 0x0004,
-};
+inline constexpr UINT RDW_INVALIDATE = 0x0001;
+inline constexpr UINT RDW_INTERNALPAINT = 0x0002;
+inline constexpr UINT RDW_ERASE = 0x0004;
+inline constexpr UINT RDW_VALIDATE = 0x0008;
+inline constexpr UINT RDW_NOINTERNALPAINT = 0x0010;
+inline constexpr UINT RDW_NOERASE = 0x0020;
+inline constexpr UINT RDW_NOCHILDREN = 0x0040;
+inline constexpr UINT RDW_ALLCHILDREN = 0x0080;
+inline constexpr UINT RDW_UPDATENOW = 0x0100;
+inline constexpr UINT RDW_ERASENOW = 0x0200;
+inline constexpr UINT RDW_FRAME = 0x0400;
+inline constexpr UINT RDW_NOFRAME = 0x0800;
+inline constexpr UINT SW_SCROLLCHILDREN = 0x0001;
+inline constexpr UINT SW_INVALIDATE = 0x0002;
+inline constexpr UINT SW_ERASE = 0x0004;
 
 // GetWindowLongPtr indexes.
-enum : int {
-    GWLP_WNDPROC = -4,
-    GWLP_HINSTANCE = -6,
-    GWLP_ID = -12,
-    GWL_STYLE = -16,
-    GWL_EXSTYLE = -20,
-    GWLP_USERDATA = -21,
-    DWLP_MSGRESULT = 0,
-};
+inline constexpr int GWLP_WNDPROC = -4;
+inline constexpr int GWLP_HINSTANCE = -6;
+inline constexpr int GWLP_ID = -12;
+inline constexpr int GWL_STYLE = -16;
+inline constexpr int GWL_EXSTYLE = -20;
+inline constexpr int GWLP_USERDATA = -21;
+inline constexpr int DWLP_MSGRESULT = 0;
 
 // GetWindow relations.
-enum : UINT {
-    GW_HWNDFIRST = 0,
-    GW_HWNDLAST = 1,
-    GW_HWNDNEXT = 2,
-    GW_HWNDPREV = 3,
-    GW_OWNER = 4,
-    GW_CHILD = 5,
-};
+inline constexpr UINT GW_HWNDFIRST = 0;
+inline constexpr UINT GW_HWNDLAST = 1;
+inline constexpr UINT GW_HWNDNEXT = 2;
+inline constexpr UINT GW_HWNDPREV = 3;
+inline constexpr UINT GW_OWNER = 4;
+inline constexpr UINT GW_CHILD = 5;
 
 // Hit-test answers and activation.
-enum : int {
-    HTERROR = -2,
-    HTTRANSPARENT = -1,
-    HTNOWHERE = 0,
-    HTCLIENT = 1,
-    HTCAPTION = 2,
-    HTBORDER = 18,
-};
-enum : int {
-    WA_INACTIVE = 0,
-    WA_ACTIVE = 1,
-    WA_CLICKACTIVE = 2,
-    MA_ACTIVATE = 1,
-    MA_NOACTIVATE = 3,
-};
+inline constexpr int HTERROR = -2;
+inline constexpr int HTTRANSPARENT = -1;
+inline constexpr int HTNOWHERE = 0;
+inline constexpr int HTCLIENT = 1;
+inline constexpr int HTCAPTION = 2;
+inline constexpr int HTBORDER = 18;
+inline constexpr int WA_INACTIVE = 0;
+inline constexpr int WA_ACTIVE = 1;
+inline constexpr int WA_CLICKACTIVE = 2;
+inline constexpr int MA_ACTIVATE = 1;
+inline constexpr int MA_NOACTIVATE = 3;
 
 // Mouse key flags in wParam.
-enum : WPARAM {
-    MK_LBUTTON = 0x0001,
-    MK_RBUTTON = 0x0002,
-    MK_SHIFT = 0x0004,
-    MK_CONTROL = 0x0008,
-    MK_MBUTTON = 0x0010,
-};
+inline constexpr WPARAM MK_LBUTTON = 0x0001;
+inline constexpr WPARAM MK_RBUTTON = 0x0002;
+inline constexpr WPARAM MK_SHIFT = 0x0004;
+inline constexpr WPARAM MK_CONTROL = 0x0008;
+inline constexpr WPARAM MK_MBUTTON = 0x0010;
 constexpr int WHEEL_DELTA = 120;
 
 // Virtual keys.
-enum : int {
-    VK_LBUTTON = 0x01,
-    VK_RBUTTON = 0x02,
-    VK_CANCEL = 0x03,
-    VK_MBUTTON = 0x04,
-    VK_BACK = 0x08,
-    VK_TAB = 0x09,
-    VK_CLEAR = 0x0C,
-    VK_RETURN = 0x0D,
-    VK_SHIFT = 0x10,
-    VK_CONTROL = 0x11,
-    VK_MENU = 0x12,
-    VK_PAUSE = 0x13,
-    VK_CAPITAL = 0x14,
-    VK_ESCAPE = 0x1B,
-    VK_SPACE = 0x20,
-    VK_PRIOR = 0x21,
-    VK_NEXT = 0x22,
-    VK_END = 0x23,
-    VK_HOME = 0x24,
-    VK_LEFT = 0x25,
-    VK_UP = 0x26,
-    VK_RIGHT = 0x27,
-    VK_DOWN = 0x28,
-    VK_INSERT = 0x2D,
-    VK_DELETE = 0x2E,
-    VK_F1 = 0x70,
-    VK_F2 = 0x71,
-    VK_F3 = 0x72,
-    VK_F4 = 0x73,
-    VK_F5 = 0x74,
-    VK_F6 = 0x75,
-    VK_F7 = 0x76,
-    VK_F8 = 0x77,
-    VK_F9 = 0x78,
-    VK_F10 = 0x79,
-    VK_F11 = 0x7A,
-    VK_F12 = 0x7B,
-    VK_LSHIFT = 0xA0,
-    VK_RSHIFT = 0xA1,
-    VK_LCONTROL = 0xA2,
-    VK_RCONTROL = 0xA3,
-    VK_OEM_1 = 0xBA,
-    VK_OEM_PLUS = 0xBB,
-    VK_OEM_COMMA = 0xBC,
-    VK_OEM_MINUS = 0xBD,
-    VK_OEM_PERIOD = 0xBE,
-    VK_OEM_2 = 0xBF,
-};
+inline constexpr int VK_LBUTTON = 0x01;
+inline constexpr int VK_RBUTTON = 0x02;
+inline constexpr int VK_CANCEL = 0x03;
+inline constexpr int VK_MBUTTON = 0x04;
+inline constexpr int VK_BACK = 0x08;
+inline constexpr int VK_TAB = 0x09;
+inline constexpr int VK_CLEAR = 0x0C;
+inline constexpr int VK_RETURN = 0x0D;
+inline constexpr int VK_SHIFT = 0x10;
+inline constexpr int VK_CONTROL = 0x11;
+inline constexpr int VK_MENU = 0x12;
+inline constexpr int VK_PAUSE = 0x13;
+inline constexpr int VK_CAPITAL = 0x14;
+inline constexpr int VK_ESCAPE = 0x1B;
+inline constexpr int VK_SPACE = 0x20;
+inline constexpr int VK_PRIOR = 0x21;
+inline constexpr int VK_NEXT = 0x22;
+inline constexpr int VK_END = 0x23;
+inline constexpr int VK_HOME = 0x24;
+inline constexpr int VK_LEFT = 0x25;
+inline constexpr int VK_UP = 0x26;
+inline constexpr int VK_RIGHT = 0x27;
+inline constexpr int VK_DOWN = 0x28;
+inline constexpr int VK_INSERT = 0x2D;
+inline constexpr int VK_DELETE = 0x2E;
+inline constexpr int VK_F1 = 0x70;
+inline constexpr int VK_F2 = 0x71;
+inline constexpr int VK_F3 = 0x72;
+inline constexpr int VK_F4 = 0x73;
+inline constexpr int VK_F5 = 0x74;
+inline constexpr int VK_F6 = 0x75;
+inline constexpr int VK_F7 = 0x76;
+inline constexpr int VK_F8 = 0x77;
+inline constexpr int VK_F9 = 0x78;
+inline constexpr int VK_F10 = 0x79;
+inline constexpr int VK_F11 = 0x7A;
+inline constexpr int VK_F12 = 0x7B;
+inline constexpr int VK_LSHIFT = 0xA0;
+inline constexpr int VK_RSHIFT = 0xA1;
+inline constexpr int VK_LCONTROL = 0xA2;
+inline constexpr int VK_RCONTROL = 0xA3;
+inline constexpr int VK_OEM_1 = 0xBA;
+inline constexpr int VK_OEM_PLUS = 0xBB;
+inline constexpr int VK_OEM_COMMA = 0xBC;
+inline constexpr int VK_OEM_MINUS = 0xBD;
+inline constexpr int VK_OEM_PERIOD = 0xBE;
+inline constexpr int VK_OEM_2 = 0xBF;
 
 // Static controls.
-enum : DWORD {
-    SS_LEFT = 0x0,
-    SS_CENTER = 0x1,
-    SS_RIGHT = 0x2,
-    SS_BLACKFRAME = 0x7,
-    SS_NOPREFIX = 0x80,
-    SS_NOTIFY = 0x100,
-    SS_SUNKEN = 0x1000,
-    STN_CLICKED = 0,
-};
+inline constexpr DWORD SS_LEFT = 0x0;
+inline constexpr DWORD SS_CENTER = 0x1;
+inline constexpr DWORD SS_RIGHT = 0x2;
+inline constexpr DWORD SS_BLACKFRAME = 0x7;
+inline constexpr DWORD SS_SIMPLE = 0xB;
+inline constexpr DWORD SS_LEFTNOWORDWRAP = 0xC;
+inline constexpr DWORD SS_TYPEMASK = 0x1F;
+inline constexpr DWORD SS_NOPREFIX = 0x80;
+inline constexpr DWORD SS_NOTIFY = 0x100;
+inline constexpr DWORD SS_SUNKEN = 0x1000;
+inline constexpr DWORD STN_CLICKED = 0;
 
 // Buttons.
-enum : DWORD {
-    BS_PUSHBUTTON = 0x0,
-    BS_DEFPUSHBUTTON = 0x1,
-    BS_CHECKBOX = 0x2,
-    BS_AUTOCHECKBOX = 0x3,
-    BS_GROUPBOX = 0x7,
-    BS_TYPEMASK = 0xF,
-    BN_CLICKED = 0,
-    BM_GETCHECK = 0x00F0,
-    BM_SETCHECK = 0x00F1,
-    BM_GETSTATE = 0x00F2,
-    BM_SETSTATE = 0x00F3,
-    BM_SETSTYLE = 0x00F4,
-    BM_CLICK = 0x00F5,
-    BST_UNCHECKED = 0,
-    BST_CHECKED = 1,
-    BST_PUSHED = 4,
-    BST_FOCUS = 8,
-};
+inline constexpr DWORD BS_PUSHBUTTON = 0x0;
+inline constexpr DWORD BS_DEFPUSHBUTTON = 0x1;
+inline constexpr DWORD BS_CHECKBOX = 0x2;
+inline constexpr DWORD BS_AUTOCHECKBOX = 0x3;
+inline constexpr DWORD BS_RADIOBUTTON = 0x4;
+inline constexpr DWORD BS_GROUPBOX = 0x7;
+inline constexpr DWORD BS_AUTORADIOBUTTON = 0x9;
+inline constexpr DWORD BS_TYPEMASK = 0xF;
+inline constexpr DWORD BN_CLICKED = 0;
+inline constexpr DWORD BM_GETCHECK = 0x00F0;
+inline constexpr DWORD BM_SETCHECK = 0x00F1;
+inline constexpr DWORD BM_GETSTATE = 0x00F2;
+inline constexpr DWORD BM_SETSTATE = 0x00F3;
+inline constexpr DWORD BM_SETSTYLE = 0x00F4;
+inline constexpr DWORD BM_CLICK = 0x00F5;
+inline constexpr DWORD BST_UNCHECKED = 0;
+inline constexpr DWORD BST_CHECKED = 1;
+inline constexpr DWORD BST_INDETERMINATE = 2;
+inline constexpr DWORD BST_PUSHED = 4;
+inline constexpr DWORD BST_FOCUS = 8;
 
 // Edit controls.
-enum : DWORD {
-    ES_LEFT = 0x0000,
-    ES_CENTER = 0x0001,
-    ES_RIGHT = 0x0002,
-    ES_MULTILINE = 0x0004,
-    ES_UPPERCASE = 0x0008,
-    ES_LOWERCASE = 0x0010,
-    ES_PASSWORD = 0x0020,
-    ES_AUTOVSCROLL = 0x0040,
-    ES_AUTOHSCROLL = 0x0080,
-    ES_NOHIDESEL = 0x0100,
-    ES_READONLY = 0x0800,
-    ES_WANTRETURN = 0x1000,
-    ES_NUMBER = 0x2000,
-};
-enum : UINT {
-    EM_GETSEL = 0x00B0,
-    EM_SETSEL = 0x00B1,
-    EM_GETRECT = 0x00B2,
-    EM_SETRECT = 0x00B3,
-    EM_SCROLLCARET = 0x00B7,
-    EM_GETMODIFY = 0x00B8,
-    EM_SETMODIFY = 0x00B9,
-    EM_GETLINECOUNT = 0x00BA,
-    EM_LINEINDEX = 0x00BB,
-    EM_LINELENGTH = 0x00C1,
-    EM_REPLACESEL = 0x00C2,
-    EM_GETLINE = 0x00C4,
-    EM_LIMITTEXT = 0x00C5,
-    EM_CANUNDO = 0x00C6,
-    EM_UNDO = 0x00C7,
-    EM_LINEFROMCHAR = 0x00C9,
-    EM_SETREADONLY = 0x00CF,
-    EM_SETMARGINS = 0x00D3,
-    EM_GETLIMITTEXT = 0x00D5,
-    EM_POSFROMCHAR = 0x00D6,
-    EM_CHARFROMPOS = 0x00D7,
-    EN_SETFOCUS = 0x0100,
-    EN_KILLFOCUS = 0x0200,
-    EN_CHANGE = 0x0300,
-    EN_UPDATE = 0x0400,
-    EN_ERRSPACE = 0x0500,
-    EN_MAXTEXT = 0x0501,
-    EN_HSCROLL = 0x0601,
-    EN_VSCROLL = 0x0602,
-};
+inline constexpr DWORD ES_LEFT = 0x0000;
+inline constexpr DWORD ES_CENTER = 0x0001;
+inline constexpr DWORD ES_RIGHT = 0x0002;
+inline constexpr DWORD ES_MULTILINE = 0x0004;
+inline constexpr DWORD ES_UPPERCASE = 0x0008;
+inline constexpr DWORD ES_LOWERCASE = 0x0010;
+inline constexpr DWORD ES_PASSWORD = 0x0020;
+inline constexpr DWORD ES_AUTOVSCROLL = 0x0040;
+inline constexpr DWORD ES_AUTOHSCROLL = 0x0080;
+inline constexpr DWORD ES_NOHIDESEL = 0x0100;
+inline constexpr DWORD ES_READONLY = 0x0800;
+inline constexpr DWORD ES_WANTRETURN = 0x1000;
+inline constexpr DWORD ES_NUMBER = 0x2000;
+inline constexpr UINT EM_GETSEL = 0x00B0;
+inline constexpr UINT EM_SETSEL = 0x00B1;
+inline constexpr UINT EM_GETRECT = 0x00B2;
+inline constexpr UINT EM_SETRECT = 0x00B3;
+inline constexpr UINT EM_SCROLLCARET = 0x00B7;
+inline constexpr UINT EM_GETMODIFY = 0x00B8;
+inline constexpr UINT EM_SETMODIFY = 0x00B9;
+inline constexpr UINT EM_GETLINECOUNT = 0x00BA;
+inline constexpr UINT EM_LINEINDEX = 0x00BB;
+inline constexpr UINT EM_LINELENGTH = 0x00C1;
+inline constexpr UINT EM_REPLACESEL = 0x00C2;
+inline constexpr UINT EM_GETLINE = 0x00C4;
+inline constexpr UINT EM_LIMITTEXT = 0x00C5;
+inline constexpr UINT EM_CANUNDO = 0x00C6;
+inline constexpr UINT EM_UNDO = 0x00C7;
+inline constexpr UINT EM_LINEFROMCHAR = 0x00C9;
+inline constexpr UINT EM_EMPTYUNDOBUFFER = 0x00CD;
+inline constexpr UINT EM_SETREADONLY = 0x00CF;
+inline constexpr UINT EM_SETMARGINS = 0x00D3;
+inline constexpr UINT EM_GETMARGINS = 0x00D4;
+inline constexpr UINT EM_SETLIMITTEXT = EM_LIMITTEXT;
+inline constexpr UINT EM_GETLIMITTEXT = 0x00D5;
+inline constexpr UINT EM_POSFROMCHAR = 0x00D6;
+inline constexpr UINT EM_CHARFROMPOS = 0x00D7;
+inline constexpr UINT EN_SETFOCUS = 0x0100;
+inline constexpr UINT EN_KILLFOCUS = 0x0200;
+inline constexpr UINT EN_CHANGE = 0x0300;
+inline constexpr UINT EN_UPDATE = 0x0400;
+inline constexpr UINT EN_ERRSPACE = 0x0500;
+inline constexpr UINT EN_MAXTEXT = 0x0501;
+inline constexpr UINT EN_HSCROLL = 0x0601;
+inline constexpr UINT EN_VSCROLL = 0x0602;
+inline constexpr UINT EC_LEFTMARGIN = 0x0001;
+inline constexpr UINT EC_RIGHTMARGIN = 0x0002;
+inline constexpr UINT EC_USEFONTINFO = 0xFFFF;
 
 // List boxes.
-enum : DWORD {
-    LBS_NOTIFY = 0x0001,
-    LBS_SORT = 0x0002,
-    LBS_NOREDRAW = 0x0004,
-    LBS_OWNERDRAWFIXED = 0x0010,
-    LBS_HASSTRINGS = 0x0040,
-    LBS_NOINTEGRALHEIGHT = 0x0100,
-    LBS_WANTKEYBOARDINPUT = 0x0400,
-    LBS_STANDARD = 0x00A00003,
-};
-enum : UINT {
-    LB_ADDSTRING = 0x0180,
-    LB_INSERTSTRING = 0x0181,
-    LB_DELETESTRING = 0x0182,
-    LB_RESETCONTENT = 0x0184,
-    LB_SETSEL = 0x0185,
-    LB_SETCURSEL = 0x0186,
-    LB_GETSEL = 0x0187,
-    LB_GETCURSEL = 0x0188,
-    LB_GETTEXT = 0x0189,
-    LB_GETTEXTLEN = 0x018A,
-    LB_GETCOUNT = 0x018B,
-    LB_SELECTSTRING = 0x018C,
-    LB_GETTOPINDEX = 0x018E,
-    LB_FINDSTRING = 0x018F,
-    LB_SETTOPINDEX = 0x0197,
-    LB_GETITEMRECT = 0x0198,
-    LB_GETITEMDATA = 0x0199,
-    LB_SETITEMDATA = 0x019A,
-    LB_SETCARETINDEX = 0x019E,
-    LB_GETCARETINDEX = 0x019F,
-    LB_SETITEMHEIGHT = 0x01A0,
-    LB_GETITEMHEIGHT = 0x01A1,
-    LB_FINDSTRINGEXACT = 0x01A2,
-    LB_ITEMFROMPOINT = 0x01A9,
-    LBN_ERRSPACE = static_cast<UINT>(-2),
-    LBN_SELCHANGE = 1,
-    LBN_DBLCLK = 2,
-    LBN_SELCANCEL = 3,
-    LBN_SETFOCUS = 4,
-    LBN_KILLFOCUS = 5,
-};
+inline constexpr DWORD LBS_NOTIFY = 0x0001;
+inline constexpr DWORD LBS_SORT = 0x0002;
+inline constexpr DWORD LBS_NOREDRAW = 0x0004;
+inline constexpr DWORD LBS_OWNERDRAWFIXED = 0x0010;
+inline constexpr DWORD LBS_HASSTRINGS = 0x0040;
+inline constexpr DWORD LBS_NOINTEGRALHEIGHT = 0x0100;
+inline constexpr DWORD LBS_WANTKEYBOARDINPUT = 0x0400;
+inline constexpr DWORD LBS_DISABLENOSCROLL = 0x1000;
+inline constexpr DWORD LBS_STANDARD = 0x00A00003;
+inline constexpr UINT LB_ADDSTRING = 0x0180;
+inline constexpr UINT LB_INSERTSTRING = 0x0181;
+inline constexpr UINT LB_DELETESTRING = 0x0182;
+inline constexpr UINT LB_RESETCONTENT = 0x0184;
+inline constexpr UINT LB_SETSEL = 0x0185;
+inline constexpr UINT LB_SETCURSEL = 0x0186;
+inline constexpr UINT LB_GETSEL = 0x0187;
+inline constexpr UINT LB_GETCURSEL = 0x0188;
+inline constexpr UINT LB_GETTEXT = 0x0189;
+inline constexpr UINT LB_GETTEXTLEN = 0x018A;
+inline constexpr UINT LB_GETCOUNT = 0x018B;
+inline constexpr UINT LB_SELECTSTRING = 0x018C;
+inline constexpr UINT LB_GETTOPINDEX = 0x018E;
+inline constexpr UINT LB_FINDSTRING = 0x018F;
+inline constexpr UINT LB_SETTOPINDEX = 0x0197;
+inline constexpr UINT LB_GETITEMRECT = 0x0198;
+inline constexpr UINT LB_GETITEMDATA = 0x0199;
+inline constexpr UINT LB_SETITEMDATA = 0x019A;
+inline constexpr UINT LB_SETCARETINDEX = 0x019E;
+inline constexpr UINT LB_GETCARETINDEX = 0x019F;
+inline constexpr UINT LB_SETITEMHEIGHT = 0x01A0;
+inline constexpr UINT LB_GETITEMHEIGHT = 0x01A1;
+inline constexpr UINT LB_FINDSTRINGEXACT = 0x01A2;
+inline constexpr UINT LB_ITEMFROMPOINT = 0x01A9;
+inline constexpr UINT LBN_ERRSPACE = static_cast<UINT>(-2);
+inline constexpr UINT LBN_SELCHANGE = 1;
+inline constexpr UINT LBN_DBLCLK = 2;
+inline constexpr UINT LBN_SELCANCEL = 3;
+inline constexpr UINT LBN_SETFOCUS = 4;
+inline constexpr UINT LBN_KILLFOCUS = 5;
 constexpr LRESULT LB_ERR = -1;
 constexpr LRESULT LB_OKAY = 0;
 
 // Scroll bars.
-enum : int {
-    SB_HORZ = 0,
-    SB_VERT = 1,
-    SB_CTL = 2,
-    SB_BOTH = 3,
-};
-enum : UINT {
-    SB_LINEUP = 0,
-    SB_LINELEFT = 0,
-    SB_LINEDOWN = 1,
-    SB_LINERIGHT = 1,
-    SB_PAGEUP = 2,
-    SB_PAGELEFT = 2,
-    SB_PAGEDOWN = 3,
-    SB_PAGERIGHT = 3,
-    SB_THUMBPOSITION = 4,
-    SB_THUMBTRACK = 5,
-    SB_TOP = 6,
-    SB_LEFT = 6,
-    SB_BOTTOM = 7,
-    SB_RIGHT = 7,
-    SB_ENDSCROLL = 8,
-    SBS_HORZ = 0,
-    SBS_VERT = 1,
-    SIF_RANGE = 0x1,
-    SIF_PAGE = 0x2,
-    SIF_POS = 0x4,
-    SIF_DISABLENOSCROLL = 0x8,
-    SIF_TRACKPOS = 0x10,
-    SIF_ALL = 0x17,
-    ESB_ENABLE_BOTH = 0,
-    ESB_DISABLE_BOTH = 3,
-    SBM_SETPOS = 0x00E0,
-    SBM_GETPOS = 0x00E1,
-    SBM_SETRANGE = 0x00E2,
-    SBM_GETRANGE = 0x00E3,
-    SBM_ENABLE_ARROWS = 0x00E4,
-    SBM_SETSCROLLINFO = 0x00E9,
-    SBM_GETSCROLLINFO = 0x00EA,
-};
+inline constexpr int SB_HORZ = 0;
+inline constexpr int SB_VERT = 1;
+inline constexpr int SB_CTL = 2;
+inline constexpr int SB_BOTH = 3;
+inline constexpr UINT SB_LINEUP = 0;
+inline constexpr UINT SB_LINELEFT = 0;
+inline constexpr UINT SB_LINEDOWN = 1;
+inline constexpr UINT SB_LINERIGHT = 1;
+inline constexpr UINT SB_PAGEUP = 2;
+inline constexpr UINT SB_PAGELEFT = 2;
+inline constexpr UINT SB_PAGEDOWN = 3;
+inline constexpr UINT SB_PAGERIGHT = 3;
+inline constexpr UINT SB_THUMBPOSITION = 4;
+inline constexpr UINT SB_THUMBTRACK = 5;
+inline constexpr UINT SB_TOP = 6;
+inline constexpr UINT SB_LEFT = 6;
+inline constexpr UINT SB_BOTTOM = 7;
+inline constexpr UINT SB_RIGHT = 7;
+inline constexpr UINT SB_ENDSCROLL = 8;
+inline constexpr UINT SBS_HORZ = 0;
+inline constexpr UINT SBS_VERT = 1;
+inline constexpr UINT SIF_RANGE = 0x1;
+inline constexpr UINT SIF_PAGE = 0x2;
+inline constexpr UINT SIF_POS = 0x4;
+inline constexpr UINT SIF_DISABLENOSCROLL = 0x8;
+inline constexpr UINT SIF_TRACKPOS = 0x10;
+inline constexpr UINT SIF_ALL = 0x17;
+inline constexpr UINT ESB_ENABLE_BOTH = 0;
+inline constexpr UINT ESB_DISABLE_LTUP = 1;
+inline constexpr UINT ESB_DISABLE_RTDN = 2;
+inline constexpr UINT ESB_DISABLE_BOTH = 3;
+inline constexpr UINT SBM_SETPOS = 0x00E0;
+inline constexpr UINT SBM_GETPOS = 0x00E1;
+inline constexpr UINT SBM_SETRANGE = 0x00E2;
+inline constexpr UINT SBM_GETRANGE = 0x00E3;
+inline constexpr UINT SBM_ENABLE_ARROWS = 0x00E4;
+inline constexpr UINT SBM_SETRANGEREDRAW = 0x00E6;
+inline constexpr UINT SBM_SETSCROLLINFO = 0x00E9;
+inline constexpr UINT SBM_GETSCROLLINFO = 0x00EA;
 struct SCROLLINFO {
     UINT cbSize = sizeof(SCROLLINFO);
     UINT fMask = 0;
@@ -470,53 +440,54 @@ struct SCROLLINFO {
 };
 
 // Message boxes.
-enum : UINT {
-    MB_OK = 0x0,
-    MB_OKCANCEL = 0x1,
-    MB_ABORTRETRYIGNORE = 0x2,
-    MB_YESNOCANCEL = 0x3,
-    MB_YESNO = 0x4,
-    MB_RETRYCANCEL = 0x5,
-    MB_TYPEMASK = 0xF,
-    MB_ICONHAND = 0x10,
-    MB_ICONERROR = 0x10,
-    MB_ICONQUESTION = 0x20,
-    MB_ICONEXCLAMATION = 0x30,
-    MB_ICONWARNING = 0x30,
-    MB_ICONINFORMATION = 0x40,
-    MB_DEFBUTTON1 = 0x000,
-    MB_DEFBUTTON2 = 0x100,
-    MB_DEFBUTTON3 = 0x200,
-    MB_DEFMASK = 0xF00,
-    MB_APPLMODAL = 0x0000,
-    MB_SYSTEMMODAL = 0x1000,
-    MB_TASKMODAL = 0x2000,
+inline constexpr UINT MB_OK = 0x0;
+inline constexpr UINT MB_OKCANCEL = 0x1;
+inline constexpr UINT MB_ABORTRETRYIGNORE = 0x2;
+inline constexpr UINT MB_YESNOCANCEL = 0x3;
+inline constexpr UINT MB_YESNO = 0x4;
+inline constexpr UINT MB_RETRYCANCEL = 0x5;
+inline constexpr UINT MB_TYPEMASK = 0xF;
+inline constexpr UINT MB_ICONHAND = 0x10;
+inline constexpr UINT MB_ICONERROR = 0x10;
+inline constexpr UINT MB_ICONQUESTION = 0x20;
+inline constexpr UINT MB_ICONEXCLAMATION = 0x30;
+inline constexpr UINT MB_ICONWARNING = 0x30;
+inline constexpr UINT MB_ICONINFORMATION = 0x40;
+inline constexpr UINT MB_DEFBUTTON1 = 0x000;
+inline constexpr UINT MB_DEFBUTTON2 = 0x100;
+inline constexpr UINT MB_DEFBUTTON3 = 0x200;
+inline constexpr UINT MB_DEFMASK = 0xF00;
+inline constexpr UINT MB_APPLMODAL = 0x0000;
+inline constexpr UINT MB_SYSTEMMODAL = 0x1000;
+inline constexpr UINT MB_TASKMODAL = 0x2000;
+
+// The header of every WM_NOTIFY message.
+struct NMHDR {
+    HWND hwndFrom = nullptr;
+    UINT_PTR idFrom = 0;
+    UINT code = 0;
 };
 
 // Control colour kinds of the framework's OnCtlColor.
-enum : UINT {
-    CTLCOLOR_MSGBOX = 0,
-    CTLCOLOR_EDIT = 1,
-    CTLCOLOR_LISTBOX = 2,
-    CTLCOLOR_BTN = 3,
-    CTLCOLOR_DLG = 4,
-    CTLCOLOR_SCROLLBAR = 5,
-    CTLCOLOR_STATIC = 6,
-};
+inline constexpr UINT CTLCOLOR_MSGBOX = 0;
+inline constexpr UINT CTLCOLOR_EDIT = 1;
+inline constexpr UINT CTLCOLOR_LISTBOX = 2;
+inline constexpr UINT CTLCOLOR_BTN = 3;
+inline constexpr UINT CTLCOLOR_DLG = 4;
+inline constexpr UINT CTLCOLOR_SCROLLBAR = 5;
+inline constexpr UINT CTLCOLOR_STATIC = 6;
 
 // Input.
-enum : DWORD {
-    INPUT_MOUSE = 0,
-    INPUT_KEYBOARD = 1,
-    KEYEVENTF_KEYUP = 0x0002,
-    MOUSEEVENTF_MOVE = 0x0001,
-    MOUSEEVENTF_LEFTDOWN = 0x0002,
-    MOUSEEVENTF_LEFTUP = 0x0004,
-    MOUSEEVENTF_RIGHTDOWN = 0x0008,
-    MOUSEEVENTF_RIGHTUP = 0x0010,
-    MOUSEEVENTF_WHEEL = 0x0800,
-    MOUSEEVENTF_ABSOLUTE = 0x8000,
-};
+inline constexpr DWORD INPUT_MOUSE = 0;
+inline constexpr DWORD INPUT_KEYBOARD = 1;
+inline constexpr DWORD KEYEVENTF_KEYUP = 0x0002;
+inline constexpr DWORD MOUSEEVENTF_MOVE = 0x0001;
+inline constexpr DWORD MOUSEEVENTF_LEFTDOWN = 0x0002;
+inline constexpr DWORD MOUSEEVENTF_LEFTUP = 0x0004;
+inline constexpr DWORD MOUSEEVENTF_RIGHTDOWN = 0x0008;
+inline constexpr DWORD MOUSEEVENTF_RIGHTUP = 0x0010;
+inline constexpr DWORD MOUSEEVENTF_WHEEL = 0x0800;
+inline constexpr DWORD MOUSEEVENTF_ABSOLUTE = 0x8000;
 struct MOUSEINPUT {
     LONG dx = 0, dy = 0;
     DWORD mouseData = 0;
@@ -536,7 +507,5 @@ struct INPUT {
 };
 
 // PeekMessage.
-enum : UINT {
-    PM_NOREMOVE = 0,
-    PM_REMOVE = 1,
-};
+inline constexpr UINT PM_NOREMOVE = 0;
+inline constexpr UINT PM_REMOVE = 1;

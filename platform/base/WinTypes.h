@@ -53,19 +53,16 @@ struct HCURSOR__;
 using HCURSOR = HCURSOR__*;
 using HICON = HCURSOR;
 
-// Drawing objects share one base so that SelectObject and DeleteObject take any of them.
+// Drawing objects share one base so that SelectObject and DeleteObject take any of them; as
+// on the real system, a handle of one kind converts to the generic one without a cast. The
+// drawing layer defines the object kinds (PenObject, BrushObject, ...) on that base.
 struct GdiObject;
 using HGDIOBJ = GdiObject*;
-struct PenObject;
-using HPEN = PenObject*;
-struct BrushObject;
-using HBRUSH = BrushObject*;
-struct FontObject;
-using HFONT = FontObject*;
-struct BitmapObject;
-using HBITMAP = BitmapObject*;
-struct RegionObject;
-using HRGN = RegionObject*;
+using HPEN = GdiObject*;
+using HBRUSH = GdiObject*;
+using HFONT = GdiObject*;
+using HBITMAP = GdiObject*;
+using HRGN = GdiObject*;
 struct DeviceContext;
 using HDC = DeviceContext*;
 

@@ -6,66 +6,60 @@
 
 #include "platform/base/WinTypes.h"
 
+#include <cstddef>
+
 // Object kinds and stock objects.
-enum : int {
-    OBJ_PEN = 1,
-    OBJ_BRUSH = 2,
-    OBJ_DC = 3,
-    OBJ_FONT = 6,
-    OBJ_BITMAP = 7,
-    OBJ_REGION = 8,
-    OBJ_MEMDC = 10,
-};
-enum : int {
-    WHITE_BRUSH = 0,
-    LTGRAY_BRUSH = 1,
-    GRAY_BRUSH = 2,
-    DKGRAY_BRUSH = 3,
-    BLACK_BRUSH = 4,
-    NULL_BRUSH = 5,
-    HOLLOW_BRUSH = NULL_BRUSH,
-    WHITE_PEN = 6,
-    BLACK_PEN = 7,
-    NULL_PEN = 8,
-    ANSI_FIXED_FONT = 11,
-    ANSI_VAR_FONT = 12,
-    SYSTEM_FONT = 13,
-    DEFAULT_GUI_FONT = 17,
-};
+inline constexpr int OBJ_PEN = 1;
+inline constexpr int OBJ_BRUSH = 2;
+inline constexpr int OBJ_DC = 3;
+inline constexpr int OBJ_FONT = 6;
+inline constexpr int OBJ_BITMAP = 7;
+inline constexpr int OBJ_REGION = 8;
+inline constexpr int OBJ_MEMDC = 10;
+inline constexpr int WHITE_BRUSH = 0;
+inline constexpr int LTGRAY_BRUSH = 1;
+inline constexpr int GRAY_BRUSH = 2;
+inline constexpr int DKGRAY_BRUSH = 3;
+inline constexpr int BLACK_BRUSH = 4;
+inline constexpr int NULL_BRUSH = 5;
+inline constexpr int HOLLOW_BRUSH = NULL_BRUSH;
+inline constexpr int WHITE_PEN = 6;
+inline constexpr int BLACK_PEN = 7;
+inline constexpr int NULL_PEN = 8;
+inline constexpr int ANSI_FIXED_FONT = 11;
+inline constexpr int ANSI_VAR_FONT = 12;
+inline constexpr int SYSTEM_FONT = 13;
+inline constexpr int DEFAULT_GUI_FONT = 17;
 
 // Pens and brushes.
-enum : int {
-    PS_SOLID = 0,
-    PS_DASH = 1,
-    PS_DOT = 2,
-    PS_DASHDOT = 3,
-    PS_NULL = 5,
-    PS_INSIDEFRAME = 6,
-    BS_SOLID = 0,
-    BS_NULL = 1,
-    BS_HATCHED = 2,
-    BS_PATTERN = 3,
-};
+inline constexpr int PS_SOLID = 0;
+inline constexpr int PS_DASH = 1;
+inline constexpr int PS_DOT = 2;
+inline constexpr int PS_DASHDOT = 3;
+inline constexpr int PS_NULL = 5;
+inline constexpr int PS_INSIDEFRAME = 6;
+inline constexpr int BS_SOLID = 0;
+inline constexpr int BS_NULL = 1;
+inline constexpr int BS_HATCHED = 2;
+inline constexpr int BS_PATTERN = 3;
 
 // Fonts.
-enum : int {
-    LF_FACESIZE = 32,
-    FW_DONTCARE = 0,
-    FW_NORMAL = 400,
-    FW_BOLD = 700,
-    ANSI_CHARSET = 0,
-    DEFAULT_CHARSET = 1,
-    OUT_DEFAULT_PRECIS = 0,
-    CLIP_DEFAULT_PRECIS = 0,
-    DEFAULT_QUALITY = 0,
-    DEFAULT_PITCH = 0,
-    FIXED_PITCH = 1,
-    VARIABLE_PITCH = 2,
-    FF_DONTCARE = 0,
-    FF_ROMAN = 0x10,
-    FF_SWISS = 0x20,
-    FF_MODERN = 0x30,
-};
+inline constexpr int LF_FACESIZE = 32;
+inline constexpr int FW_DONTCARE = 0;
+inline constexpr int FW_NORMAL = 400;
+inline constexpr int FW_BOLD = 700;
+inline constexpr int ANSI_CHARSET = 0;
+inline constexpr int DEFAULT_CHARSET = 1;
+inline constexpr int OUT_DEFAULT_PRECIS = 0;
+inline constexpr int CLIP_DEFAULT_PRECIS = 0;
+inline constexpr int DEFAULT_QUALITY = 0;
+inline constexpr int DEFAULT_PITCH = 0;
+inline constexpr int FIXED_PITCH = 1;
+inline constexpr int VARIABLE_PITCH = 2;
+inline constexpr int FF_DONTCARE = 0;
+inline constexpr int FF_ROMAN = 0x10;
+inline constexpr int FF_SWISS = 0x20;
+inline constexpr int FF_MODERN = 0x30;
 struct LOGFONT {
     LONG lfHeight = 0;
     LONG lfWidth = 0;
@@ -99,82 +93,73 @@ struct TEXTMETRIC {
 };
 
 // Text drawing.
-enum : UINT {
-    ETO_OPAQUE = 0x0002,
-    ETO_CLIPPED = 0x0004,
-    TA_LEFT = 0,
-    TA_TOP = 0,
-    TA_RIGHT = 2,
-    TA_CENTER = 6,
-    TA_BOTTOM = 8,
-    TA_BASELINE = 24,
-    DT_TOP = 0x0000,
-    DT_LEFT = 0x0000,
-    DT_CENTER = 0x0001,
-    DT_RIGHT = 0x0002,
-    DT_VCENTER = 0x0004,
-    DT_BOTTOM = 0x0008,
-    DT_WORDBREAK = 0x0010,
-    DT_SINGLELINE = 0x0020,
-    DT_EXPANDTABS = 0x0040,
-    DT_NOCLIP = 0x0100,
-    DT_CALCRECT = 0x0400,
-    DT_NOPREFIX = 0x0800,
-    DT_END_ELLIPSIS = 0x8000,
-};
-enum : int {
-    TRANSPARENT = 1,
-    OPAQUE = 2,
-};
+inline constexpr UINT ETO_OPAQUE = 0x0002;
+inline constexpr UINT ETO_CLIPPED = 0x0004;
+inline constexpr UINT TA_LEFT = 0;
+inline constexpr UINT TA_TOP = 0;
+inline constexpr UINT TA_RIGHT = 2;
+inline constexpr UINT TA_CENTER = 6;
+inline constexpr UINT TA_BOTTOM = 8;
+inline constexpr UINT TA_BASELINE = 24;
+inline constexpr UINT DT_TOP = 0x0000;
+inline constexpr UINT DT_LEFT = 0x0000;
+inline constexpr UINT DT_CENTER = 0x0001;
+inline constexpr UINT DT_RIGHT = 0x0002;
+inline constexpr UINT DT_VCENTER = 0x0004;
+inline constexpr UINT DT_BOTTOM = 0x0008;
+inline constexpr UINT DT_WORDBREAK = 0x0010;
+inline constexpr UINT DT_SINGLELINE = 0x0020;
+inline constexpr UINT DT_EXPANDTABS = 0x0040;
+inline constexpr UINT DT_NOCLIP = 0x0100;
+inline constexpr UINT DT_CALCRECT = 0x0400;
+inline constexpr UINT DT_NOPREFIX = 0x0800;
+inline constexpr UINT DT_END_ELLIPSIS = 0x8000;
+inline constexpr int TRANSPARENT = 1;
+inline constexpr int OPAQUE = 2;
 
 // Raster operations.
-enum : DWORD {
-    SRCCOPY = 0x00CC0020,
-    SRCPAINT = 0x00EE0086,
-    SRCAND = 0x008800C6,
-    SRCINVERT = 0x00660046,
-    NOTSRCCOPY = 0x00330008,
-    PATCOPY = 0x00F00021,
-    PATINVERT = 0x005A0049,
-    DSTINVERT = 0x00550009,
-    BLACKNESS = 0x00000042,
-    WHITENESS = 0x00FF0062,
-};
-enum : int {
-    R2_BLACK = 1,
-    R2_NOT = 6,
-    R2_XORPEN = 7,
-    R2_COPYPEN = 13,
-    R2_WHITE = 16,
-};
+inline constexpr DWORD SRCCOPY = 0x00CC0020;
+inline constexpr DWORD SRCPAINT = 0x00EE0086;
+inline constexpr DWORD SRCAND = 0x008800C6;
+inline constexpr DWORD SRCINVERT = 0x00660046;
+inline constexpr DWORD NOTSRCCOPY = 0x00330008;
+inline constexpr DWORD PATCOPY = 0x00F00021;
+inline constexpr DWORD PATINVERT = 0x005A0049;
+inline constexpr DWORD DSTINVERT = 0x00550009;
+inline constexpr DWORD BLACKNESS = 0x00000042;
+inline constexpr DWORD WHITENESS = 0x00FF0062;
+inline constexpr int R2_BLACK = 1;
+inline constexpr int R2_NOT = 6;
+inline constexpr int R2_XORPEN = 7;
+inline constexpr int R2_COPYPEN = 13;
+inline constexpr int R2_WHITE = 16;
 
 // Device capabilities.
-enum : int {
-    HORZSIZE = 4,
-    VERTSIZE = 6,
-    HORZRES = 8,
-    VERTRES = 10,
-    BITSPIXEL = 12,
-    LOGPIXELSX = 88,
-    LOGPIXELSY = 90,
-    PHYSICALWIDTH = 110,
-    PHYSICALHEIGHT = 111,
-    PHYSICALOFFSETX = 112,
-    PHYSICALOFFSETY = 113,
-};
+inline constexpr int TECHNOLOGY = 2;
+inline constexpr int HORZSIZE = 4;
+inline constexpr int VERTSIZE = 6;
+inline constexpr int HORZRES = 8;
+inline constexpr int VERTRES = 10;
+inline constexpr int BITSPIXEL = 12;
+inline constexpr int LOGPIXELSX = 88;
+inline constexpr int LOGPIXELSY = 90;
+inline constexpr int PHYSICALWIDTH = 110;
+inline constexpr int PHYSICALHEIGHT = 111;
+inline constexpr int PHYSICALOFFSETX = 112;
+inline constexpr int PHYSICALOFFSETY = 113;
+inline constexpr int DT_RASDISPLAY = 1;
+inline constexpr int DT_RASPRINTER = 2;
 
 // Regions and clipping.
-enum : int {
-    ERROR = 0,
-    NULLREGION = 1,
-    SIMPLEREGION = 2,
-    COMPLEXREGION = 3,
-    RGN_AND = 1,
-    RGN_OR = 2,
-    RGN_XOR = 3,
-    RGN_DIFF = 4,
-    RGN_COPY = 5,
-};
+inline constexpr int ERROR = 0;
+inline constexpr int NULLREGION = 1;
+inline constexpr int SIMPLEREGION = 2;
+inline constexpr int COMPLEXREGION = 3;
+inline constexpr int RGN_AND = 1;
+inline constexpr int RGN_OR = 2;
+inline constexpr int RGN_XOR = 3;
+inline constexpr int RGN_DIFF = 4;
+inline constexpr int RGN_COPY = 5;
 
 struct LOGPEN {
     UINT lopnStyle = 0;
@@ -218,6 +203,8 @@ BOOL DeleteObject(HGDIOBJ object);
 // Fills a LOGPEN, LOGBRUSH, LOGFONT or BITMAP; answers the bytes written, 0 on a wrong size.
 int GetObject(HGDIOBJ object, int size, void* out);
 DWORD GetObjectType(HGDIOBJ object);
+// OBJ_DC or OBJ_MEMDC; 0 for a context that is gone.
+DWORD GetObjectType(HDC dc);
 
 // Contexts.
 HDC CreateCompatibleDC(HDC dc);
@@ -280,3 +267,113 @@ int DrawText(HDC dc, const char* text, int count, RECT* r, UINT format);
 BOOL GetTextExtentPoint32(HDC dc, const char* text, int count, SIZE* size);
 BOOL GetTextMetrics(HDC dc, TEXTMETRIC* tm);
 int GetTextFace(HDC dc, int count, char* face);
+// The 8-bit names the module's code uses.
+inline BOOL GetTextExtentPoint32A(HDC dc, const char* text, int count, SIZE* size) {
+    return GetTextExtentPoint32(dc, text, count, size);
+}
+// The older measure, which the platform keeps for compatibility, answers the same.
+inline BOOL GetTextExtentPoint(HDC dc, const char* text, int count, SIZE* size) {
+    return GetTextExtentPoint32(dc, text, count, size);
+}
+inline BOOL GetTextExtentPointA(HDC dc, const char* text, int count, SIZE* size) {
+    return GetTextExtentPoint32(dc, text, count, size);
+}
+inline BOOL ExtTextOutA(HDC dc, int x, int y, UINT options, const RECT* r, const char* text,
+                        UINT count, const int* dx) {
+    return ExtTextOut(dc, x, y, options, r, text, count, dx);
+}
+inline BOOL TextOutA(HDC dc, int x, int y, const char* text, int count) {
+    return TextOut(dc, x, y, text, count);
+}
+inline int DrawTextA(HDC dc, const char* text, int count, RECT* r, UINT format) {
+    return DrawText(dc, text, count, r, format);
+}
+inline int GetObjectA(HGDIOBJ object, int size, void* out) {
+    return GetObject(object, size, out);
+}
+inline HFONT CreateFontIndirectA(const LOGFONT* lf) {
+    return CreateFontIndirect(lf);
+}
+inline HFONT CreateFontA(int height, int width, int escapement, int orientation, int weight,
+                         DWORD italic, DWORD underline, DWORD strikeOut, DWORD charSet,
+                         DWORD outPrecision, DWORD clipPrecision, DWORD quality,
+                         DWORD pitchAndFamily, const char* face) {
+    return CreateFont(height, width, escapement, orientation, weight, italic, underline, strikeOut,
+                      charSet, outPrecision, clipPrecision, quality, pitchAndFamily, face);
+}
+
+// TEXTMETRIC.tmPitchAndFamily bits; the pitch bit is set for proportional fonts, as on the
+// real system.
+constexpr int TMPF_FIXED_PITCH = 0x01;
+constexpr int TMPF_VECTOR = 0x02;
+constexpr int TMPF_TRUETYPE = 0x04;
+
+// Device-independent bitmaps. The structures have the layout of the BMP file format.
+#pragma pack(push, 2)
+struct BITMAPFILEHEADER {
+    WORD bfType = 0;
+    DWORD bfSize = 0;
+    WORD bfReserved1 = 0;
+    WORD bfReserved2 = 0;
+    DWORD bfOffBits = 0;
+};
+#pragma pack(pop)
+struct BITMAPINFOHEADER {
+    DWORD biSize = 0;
+    LONG biWidth = 0;
+    LONG biHeight = 0;
+    WORD biPlanes = 0;
+    WORD biBitCount = 0;
+    DWORD biCompression = 0;
+    DWORD biSizeImage = 0;
+    LONG biXPelsPerMeter = 0;
+    LONG biYPelsPerMeter = 0;
+    DWORD biClrUsed = 0;
+    DWORD biClrImportant = 0;
+};
+struct RGBQUAD {
+    BYTE rgbBlue = 0;
+    BYTE rgbGreen = 0;
+    BYTE rgbRed = 0;
+    BYTE rgbReserved = 0;
+};
+// The colour table runs on past the one entry declared here, as many entries as the header
+// says.
+struct BITMAPINFO {
+    BITMAPINFOHEADER bmiHeader;
+    RGBQUAD bmiColors[1];
+};
+static_assert(sizeof(BITMAPFILEHEADER) == 14 && sizeof(BITMAPINFOHEADER) == 40 &&
+              sizeof(RGBQUAD) == 4);
+inline constexpr DWORD BI_RGB = 0;
+inline constexpr DWORD CBM_INIT = 4;
+inline constexpr UINT DIB_RGB_COLORS = 0;
+// Uncompressed bitmaps of 1, 4, 8, 24 and 32 bits per pixel, bottom-up (positive height) or
+// top-down. The pixels must hold the rows the header describes (biSizeImage, when set, is taken
+// as the size of `bits`); the colour table has biClrUsed entries, or 2^biBitCount when that is
+// 0. A header that does not describe such a bitmap is refused with nullptr. Without CBM_INIT
+// the bitmap is black.
+HBITMAP CreateDIBitmap(HDC dc, const BITMAPINFOHEADER* header, DWORD init, const void* bits,
+                       const BITMAPINFO* info, UINT usage);
+// The same with the sizes of both buffers stated, for bitmaps read from files: nothing past
+// `bitsSize` bytes of `bits` or `infoSize` bytes of `info` is read, and a header whose numbers
+// need more is refused.
+HBITMAP CreateDIBitmapSized(const BITMAPINFOHEADER* header, DWORD init, const void* bits,
+                            std::size_t bitsSize, const BITMAPINFO* info, std::size_t infoSize,
+                            UINT usage);
+// Copies `lines` rows from `start` (counted from the bottom for a positive biHeight in `info`,
+// from the top for a negative one) as 32 bits per pixel (blue, green, red, 0). With `bits`
+// null, fills in the header's size fields and answers the bitmap's height. Answers the rows
+// copied, 0 on failure. Only 32-bit output is supported.
+int GetDIBits(HDC dc, HBITMAP bitmap, UINT start, UINT lines, void* bits, BITMAPINFO* info,
+              UINT usage);
+// A bitmap whose pixels the program reaches directly through `*bits`: 32 bits per pixel,
+// top-down (a negative biHeight), which is the layout of the pixels behind it. Other layouts
+// answer null. Call GdiFlush before reading pixels that drawing calls changed.
+HBITMAP CreateDIBSection(HDC dc, const BITMAPINFO* info, UINT usage, void** bits, void* section, DWORD offset);
+BOOL GdiFlush();
+
+// More on regions.
+int OffsetRgn(HRGN rgn, int dx, int dy);
+BOOL SetRectRgn(HRGN rgn, int left, int top, int right, int bottom);
+BOOL EqualRgn(HRGN a, HRGN b);

@@ -3,6 +3,7 @@
 // their classes, messages and the queue, focus, capture, painting, timers, input and dialogs.
 // One thread owns everything; there are no locks.
 
+#include <cstddef>
 #include <string>
 
 #include "platform/base/Messages.h"
@@ -168,6 +169,8 @@ void Sleep(DWORD ms);
 // Key state as of the input message being handled: the high bit for down, the low bit toggles.
 short GetKeyState(int vk);
 short GetAsyncKeyState(int vk);
+BOOL GetKeyboardState(BYTE* keys);
+BOOL SetKeyboardState(const BYTE* keys);
 UINT SendInput(UINT count, const INPUT* inputs, int size);
 BOOL GetCursorPos(POINT* p);
 BOOL SetCursorPos(int x, int y);
@@ -193,67 +196,94 @@ inline const char* const IDC_NO = MAKEINTRESOURCE(32648);
 inline const char* const IDC_HAND = MAKEINTRESOURCE(32649);
 
 // System colours and metrics.
-enum : int {
-    COLOR_SCROLLBAR = 0,
-    COLOR_BACKGROUND = 1,
-    COLOR_ACTIVECAPTION = 2,
-    COLOR_INACTIVECAPTION = 3,
-    COLOR_MENU = 4,
-    COLOR_WINDOW = 5,
-    COLOR_WINDOWFRAME = 6,
-    COLOR_MENUTEXT = 7,
-    COLOR_WINDOWTEXT = 8,
-    COLOR_CAPTIONTEXT = 9,
-    COLOR_ACTIVEBORDER = 10,
-    COLOR_INACTIVEBORDER = 11,
-    COLOR_APPWORKSPACE = 12,
-    COLOR_HIGHLIGHT = 13,
-    COLOR_HIGHLIGHTTEXT = 14,
-    COLOR_BTNFACE = 15,
-    COLOR_BTNSHADOW = 16,
-    COLOR_GRAYTEXT = 17,
-    COLOR_BTNTEXT = 18,
-    COLOR_INACTIVECAPTIONTEXT = 19,
-    COLOR_BTNHIGHLIGHT = 20,
-    COLOR_3DDKSHADOW = 21,
-    COLOR_3DLIGHT = 22,
-    COLOR_INFOTEXT = 23,
-    COLOR_INFOBK = 24,
-    COLOR_3DFACE = COLOR_BTNFACE,
-    COLOR_3DSHADOW = COLOR_BTNSHADOW,
-    COLOR_3DHILIGHT = COLOR_BTNHIGHLIGHT,
-};
+inline constexpr int COLOR_SCROLLBAR = 0;
+inline constexpr int COLOR_BACKGROUND = 1;
+inline constexpr int COLOR_ACTIVECAPTION = 2;
+inline constexpr int COLOR_INACTIVECAPTION = 3;
+inline constexpr int COLOR_MENU = 4;
+inline constexpr int COLOR_WINDOW = 5;
+inline constexpr int COLOR_WINDOWFRAME = 6;
+inline constexpr int COLOR_MENUTEXT = 7;
+inline constexpr int COLOR_WINDOWTEXT = 8;
+inline constexpr int COLOR_CAPTIONTEXT = 9;
+inline constexpr int COLOR_ACTIVEBORDER = 10;
+inline constexpr int COLOR_INACTIVEBORDER = 11;
+inline constexpr int COLOR_APPWORKSPACE = 12;
+inline constexpr int COLOR_HIGHLIGHT = 13;
+inline constexpr int COLOR_HIGHLIGHTTEXT = 14;
+inline constexpr int COLOR_BTNFACE = 15;
+inline constexpr int COLOR_BTNSHADOW = 16;
+inline constexpr int COLOR_GRAYTEXT = 17;
+inline constexpr int COLOR_BTNTEXT = 18;
+inline constexpr int COLOR_INACTIVECAPTIONTEXT = 19;
+inline constexpr int COLOR_BTNHIGHLIGHT = 20;
+inline constexpr int COLOR_3DDKSHADOW = 21;
+inline constexpr int COLOR_3DLIGHT = 22;
+inline constexpr int COLOR_INFOTEXT = 23;
+inline constexpr int COLOR_INFOBK = 24;
+inline constexpr int COLOR_3DFACE = COLOR_BTNFACE;
+inline constexpr int COLOR_3DSHADOW = COLOR_BTNSHADOW;
+inline constexpr int COLOR_3DHILIGHT = COLOR_BTNHIGHLIGHT;
 DWORD GetSysColor(int index);
 HBRUSH GetSysColorBrush(int index);
 // Changes the scheme (as the control panel would) and tells every top-level window.
 void SetSysColors(int count, const int* indexes, const COLORREF* colors);
-enum : int {
-    SM_CXSCREEN = 0,
-    SM_CYSCREEN = 1,
-    SM_CXVSCROLL = 2,
-    SM_CYHSCROLL = 3,
-    SM_CYCAPTION = 4,
-    SM_CXBORDER = 5,
-    SM_CYBORDER = 6,
-    SM_CXDLGFRAME = 7,
-    SM_CYDLGFRAME = 8,
-    SM_CYVTHUMB = 9,
-    SM_CXHTHUMB = 10,
-    SM_CXICON = 11,
-    SM_CYICON = 12,
-    SM_CXCURSOR = 13,
-    SM_CYCURSOR = 14,
-    SM_CYMENU = 15,
-    SM_CYVSCROLL = 20,
-    SM_CXHSCROLL = 21,
-    SM_CXDOUBLECLK = 36,
-    SM_CYDOUBLECLK = 37,
-    SM_CXEDGE = 45,
-    SM_CYEDGE = 46,
-    SM_CXFIXEDFRAME = SM_CXDLGFRAME,
-    SM_CYFIXEDFRAME = SM_CYDLGFRAME,
-};
+inline constexpr int SM_CXSCREEN = 0;
+inline constexpr int SM_CYSCREEN = 1;
+inline constexpr int SM_CXVSCROLL = 2;
+inline constexpr int SM_CYHSCROLL = 3;
+inline constexpr int SM_CYCAPTION = 4;
+inline constexpr int SM_CXBORDER = 5;
+inline constexpr int SM_CYBORDER = 6;
+inline constexpr int SM_CXDLGFRAME = 7;
+inline constexpr int SM_CYDLGFRAME = 8;
+inline constexpr int SM_CYVTHUMB = 9;
+inline constexpr int SM_CXHTHUMB = 10;
+inline constexpr int SM_CXICON = 11;
+inline constexpr int SM_CYICON = 12;
+inline constexpr int SM_CXCURSOR = 13;
+inline constexpr int SM_CYCURSOR = 14;
+inline constexpr int SM_CYMENU = 15;
+inline constexpr int SM_CYVSCROLL = 20;
+inline constexpr int SM_CXHSCROLL = 21;
+inline constexpr int SM_CXDOUBLECLK = 36;
+inline constexpr int SM_CYDOUBLECLK = 37;
+inline constexpr int SM_CXEDGE = 45;
+inline constexpr int SM_CXDRAG = 68;
+inline constexpr int SM_CYDRAG = 69;
+inline constexpr int SM_CYEDGE = 46;
+inline constexpr int SM_CXFIXEDFRAME = SM_CXDLGFRAME;
+inline constexpr int SM_CYFIXEDFRAME = SM_CYDLGFRAME;
 int GetSystemMetrics(int index);
+
+// Every descendant of `parent`, depth first, until `proc` answers FALSE.
+using WNDENUMPROC = BOOL (*)(HWND, LPARAM);
+BOOL EnumChildWindows(HWND parent, WNDENUMPROC proc, LPARAM lParam);
+
+// Movable memory blocks, as the clipboard takes them.
+struct HGLOBAL__;
+using HGLOBAL = HGLOBAL__*;
+using HANDLE = void*;
+inline constexpr UINT GMEM_FIXED = 0x0000;
+inline constexpr UINT GMEM_MOVEABLE = 0x0002;
+inline constexpr UINT GMEM_ZEROINIT = 0x0040;
+inline constexpr UINT GHND = 0x0042;
+HGLOBAL GlobalAlloc(UINT flags, std::size_t bytes);
+void* GlobalLock(HGLOBAL block);
+BOOL GlobalUnlock(HGLOBAL block);
+HGLOBAL GlobalFree(HGLOBAL block);
+std::size_t GlobalSize(HGLOBAL block);
+
+// The clipboard: text only (CF_TEXT), kept by the backend (the system's clipboard under SDL).
+inline constexpr UINT CF_TEXT = 1;
+BOOL OpenClipboard(HWND owner);
+BOOL CloseClipboard();
+BOOL EmptyClipboard();
+// The clipboard owns `data` from then on.
+HANDLE SetClipboardData(UINT format, HANDLE data);
+// The clipboard's own block; valid until the clipboard changes.
+HANDLE GetClipboardData(UINT format);
+BOOL IsClipboardFormatAvailable(UINT format);
 
 // Sound and messages to the user.
 BOOL Beep(DWORD frequency, DWORD ms);
