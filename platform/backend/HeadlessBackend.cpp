@@ -2,6 +2,8 @@
 
 #include <memory>
 
+#include "platform/gdi/SurfaceDC.h"
+
 namespace plat {
 
 namespace {
@@ -11,6 +13,11 @@ constexpr DWORD AutoAdvanceLimit = 10 * 60 * 1000;
 
 bool Before(DWORD a, DWORD b) { return static_cast<std::int32_t>(a - b) < 0; }
 }  // namespace
+
+void HeadlessBackend::SetScreenSize(SIZE size) {
+    screen = size;
+    if (&CurrentBackend() == this) ::SetScreenSize(size.cx, size.cy);
+}
 
 bool HeadlessBackend::Wait(std::optional<DWORD> nextTimer) {
     if (waiting) {
@@ -58,6 +65,11 @@ Backend& CurrentBackend() {
     return *Installed();
 }
 
-void InstallBackend(Backend* backend) { Installed() = backend; }
+void InstallBackend(Backend* backend) {
+    Installed() = backend;
+    // Drawing contexts of the screen report its size.
+    SIZE s = backend->ScreenSize();
+    ::SetScreenSize(s.cx, s.cy);
+}
 
 }  // namespace plat

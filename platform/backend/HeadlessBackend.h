@@ -23,7 +23,7 @@ public:
     // Whether the clock may jump to the next timer when nothing else is left (tests); scripts
     // turn it off so that only their own waits move time.
     void SetAutoAdvance(bool on) { autoAdvance = on; }
-    void SetScreenSize(SIZE size) { screen = size; }
+    void SetScreenSize(SIZE size);
 
     DWORD Now() const override { return now; }
     void Sleep(DWORD ms) override { now += ms; }

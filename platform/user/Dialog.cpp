@@ -247,6 +247,10 @@ INT_PTR DialogBoxIndirectParam(HINSTANCE instance, const DialogTemplate* tpl, HW
             if ((d = Data(dlg))) d->result = IDCANCEL;
             break;
         }
+        // A modeless dialog above the modal one (a find dialog) gets its keys too, as a
+        // framework's modal loop hands them on.
+        HWND target = msg.hwnd ? GetAncestorTopLevel(msg.hwnd) : nullptr;
+        if (target && target != dlg && Data(target) && IsDialogMessage(target, &msg)) continue;
         if (!IsDialogMessage(dlg, &msg)) {
             TranslateMessage(&msg);
             DispatchMessage(&msg);

@@ -2,7 +2,7 @@
 
 #include <cstdarg>
 #include <fstream>
-#include <regex>
+#include <cctype>
 #include <sstream>
 
 void Transcript::Print(const char* format, ...) {
@@ -32,9 +32,23 @@ std::vector<std::string> SplitLines(const std::string& text) {
 
 namespace {
 
+// The line with every number (decimal, or hexadecimal after 0x) replaced by N.
 std::string Shape(const std::string& line) {
-    static const std::regex number("0x[0-9a-fA-F]+|-?[0-9]+");
-    return std::regex_replace(line, number, "N");
+    std::string out;
+    for (size_t i = 0; i < line.size();) {
+        auto digit = [&](size_t k) { return k < line.size() && std::isdigit(static_cast<unsigned char>(line[k])); };
+        auto hex = [&](size_t k) { return k < line.size() && std::isxdigit(static_cast<unsigned char>(line[k])); };
+        if (line.compare(i, 2, "0x") == 0 && hex(i + 2)) {
+            for (i += 2; hex(i); ++i) {}
+            out += 'N';
+        } else if (digit(i) || (line[i] == '-' && digit(i + 1))) {
+            for (++i; digit(i); ++i) {}
+            out += 'N';
+        } else {
+            out += line[i++];
+        }
+    }
+    return out;
 }
 
 }  // namespace
