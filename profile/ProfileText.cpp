@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-bool ProfileText::IsSpace(char c) {
-    return c == ' ' || (c >= '\t' && c <= '\r');
-}
+#include "platform/base/MbString.h"
+
+bool ProfileText::IsSpace(char c) { return _ismbcspace(static_cast<unsigned char>(c)) != 0; }
 
 std::string_view ProfileText::TrimRight(std::string_view text) {
     while (!text.empty() && IsSpace(text.back())) text.remove_suffix(1);
@@ -16,18 +16,7 @@ int ProfileText::Compare(std::string_view a, std::string_view b) {
     return order < 0 ? -1 : order > 0 ? 1 : 0;
 }
 
-unsigned char ProfileText::ToLower(unsigned char c) {
-    if (c >= 'A' && c <= 'Z') return static_cast<unsigned char>(c + 0x20);
-    // Latin capitals with their small letters 0x20 above, except the multiplication sign.
-    if (c >= 0xC0 && c <= 0xDE && c != 0xD7) return static_cast<unsigned char>(c + 0x20);
-    switch (c) {
-    case 0x8A: return 0x9A; // S with caron
-    case 0x8C: return 0x9C; // OE ligature
-    case 0x8E: return 0x9E; // Z with caron
-    case 0x9F: return 0xFF; // Y with diaeresis
-    default: return c;
-    }
-}
+unsigned char ProfileText::ToLower(unsigned char c) { return static_cast<unsigned char>(_mbctolower(c)); }
 
 int ProfileText::CompareNoCase(std::string_view a, std::string_view b) {
     size_t common = std::min(a.size(), b.size());

@@ -1,8 +1,7 @@
 #pragma once
-// The byte-string rules of profile files: which bytes are white space and how names compare.
-// Text is in code page 1252, a single-byte code page, so the runtime's multi-byte helpers
-// (_ismbcspace, _mbscmp, _mbsicmp) reduce to these byte rules. The views may hold NUL bytes:
-// a file with them still reads and writes back whole.
+// The byte-string rules of profile files: which bytes are white space and how names compare,
+// by the code page's rules (platform/base/MbString.h) but over views that may hold NUL bytes,
+// so that a file with them still reads and writes back whole.
 
 #include <string_view>
 
