@@ -76,6 +76,7 @@ SdlBackend* SdlBackend::Open() {
 
 SdlBackend::~SdlBackend() {
     for (auto& [hwnd, window] : windows) SDL_DestroyWindow(window);
+    for (auto& [id, cursor] : cursors) SDL_FreeCursor(cursor);
     if (audio) SDL_CloseAudioDevice(audio);
     SDL_Quit();
 }
@@ -183,8 +184,28 @@ void SdlBackend::Translate(const SDL_Event& e) {
     }
 }
 
+// The standard cursors the programs set become the desktop's own shapes.
+void SdlBackend::ShowCursor() {
+    HCURSOR wanted = GetCursor();
+    if (wanted == shownCursor) return;
+    shownCursor = wanted;
+    static const std::pair<const char*, SDL_SystemCursor> shapes[] = {
+        {IDC_ARROW, SDL_SYSTEM_CURSOR_ARROW}, {IDC_IBEAM, SDL_SYSTEM_CURSOR_IBEAM},
+        {IDC_WAIT, SDL_SYSTEM_CURSOR_WAIT},   {IDC_CROSS, SDL_SYSTEM_CURSOR_CROSSHAIR},
+        {IDC_SIZEWE, SDL_SYSTEM_CURSOR_SIZEWE}, {IDC_SIZENS, SDL_SYSTEM_CURSOR_SIZENS},
+        {IDC_SIZEALL, SDL_SYSTEM_CURSOR_SIZEALL}, {IDC_NO, SDL_SYSTEM_CURSOR_NO},
+        {IDC_HAND, SDL_SYSTEM_CURSOR_HAND}};
+    SDL_SystemCursor shape = SDL_SYSTEM_CURSOR_ARROW;
+    for (const auto& [id, sdl] : shapes)
+        if (LoadCursor(nullptr, id) == wanted) shape = sdl;
+    SDL_Cursor*& cursor = cursors[wanted];
+    if (!cursor) cursor = SDL_CreateSystemCursor(shape);
+    if (cursor) SDL_SetCursor(cursor);
+}
+
 bool SdlBackend::Wait(std::optional<DWORD> nextTimer) {
     Present();
+    ShowCursor();
     int timeout = -1;
     if (nextTimer) timeout = std::max<int>(0, static_cast<int>(static_cast<std::int32_t>(*nextTimer - Now())));
     SDL_Event e;

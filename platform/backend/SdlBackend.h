@@ -33,11 +33,14 @@ private:
     void Present();
     void Translate(const SDL_Event& e);
     HWND WindowOf(Uint32 sdlId) const;
+    void ShowCursor();
 
     SIZE screen{1280, 1024};
     std::map<HWND, SDL_Window*> windows;
     std::set<HWND> dirty;
     SDL_AudioDeviceID audio = 0;
+    HCURSOR shownCursor = nullptr;
+    std::map<HCURSOR, SDL_Cursor*> cursors;
 };
 
 }  // namespace plat
