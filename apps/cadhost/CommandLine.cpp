@@ -108,5 +108,7 @@ const char* CommandLine::Usage() {
     return "usage: cadhost [--module PATH] [--drawing PATH] [--headless] [--screen WxH]\n"
            "               [--script FILE] [-e FORM]... [FILE.lsp]...\n"
            "Loads the module, evaluates the forms and files in order and prints each result.\n"
-           "Without forms or files it reads forms from standard input.\n";
+           "Without forms or files it reads forms from standard input.\n"
+           "Windows are real when there is a display; --headless, or a script for input,\n"
+           "puts them on a virtual screen.\n";
 }

@@ -3,6 +3,8 @@
 #include "host/ads/AdsCodes.h"
 #include "host/lisp/UpperCase.h"
 #include "host/session/Host.h"
+#include "host/ui/FileChooser.h"
+#include "platform/user/User.h"
 
 #include <cstdlib>
 #include <cstring>
@@ -11,6 +13,8 @@ extern "C" int acedAlert(const char* text) {
     host::Host* current = host::Host::Current();
     if (!current || !text) return RTERROR;
     current->Events().Alert(text);
+    MessageBox(current->DialogOwner(), text, "AutoCAD", MB_OK);
+    current->Events().AlertDone();
     return RTNORM;
 }
 
@@ -29,6 +33,16 @@ extern "C" int acedGetVar(const char* name, resbuf* result) {
     if (!result->resval.rstring) return RTERROR;
     result->restype = RTSTR;
     return RTNORM;
+}
+
+extern "C" int acedGetFileD(const char* title, const char* defaultName, const char* ext, int flags,
+                            resbuf* result) {
+    host::Host* current = host::Host::Current();
+    if (!result) return RTERROR;
+    result->restype = RTNONE;
+    if (!current) return RTERROR;
+    const host::FileChooser chooser(title, defaultName, ext, flags);
+    return chooser.Run(current->DialogOwner(), current->CurrentDrawing().Prefix(), result);
 }
 
 extern "C" void acdbFail(const char* text) {

@@ -1,6 +1,7 @@
 #include "host/doc/AcApDocManager.h"
 
 #include "host/session/Host.h"
+#include "platform/afx/AfxApp.h"
 
 const AcRxClass* AcApDocManager::desc() {
     static const AcRxClass description("AcApDocManager", AcRxObject::desc());
@@ -8,15 +9,18 @@ const AcRxClass* AcApDocManager::desc() {
 }
 
 void AcApDocManager::pushResourceHandle(HINSTANCE handle) {
-    resourceHandles.push_back(handle);
+    outerHandles.push_back(AfxGetResourceHandle());
+    AfxSetResourceHandle(handle);
 }
 
 void AcApDocManager::popResourceHandle() {
-    if (!resourceHandles.empty()) resourceHandles.pop_back();
+    if (outerHandles.empty()) return;
+    AfxSetResourceHandle(outerHandles.back());
+    outerHandles.pop_back();
 }
 
 HINSTANCE AcApDocManager::currentResourceHandle() const {
-    return resourceHandles.empty() ? nullptr : resourceHandles.back();
+    return AfxGetResourceHandle();
 }
 
 AcApDocManager* acDocManagerPtr() {

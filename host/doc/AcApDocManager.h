@@ -1,6 +1,8 @@
 #pragma once
 // The host's document manager, as far as modules use it: a stack of resource handles, so that
-// a module's dialog templates are found while one of its calls runs.
+// a module's dialog templates are found while one of its calls runs. The handle on top is the
+// framework's current resource handle (AfxGetResourceHandle), where dialogs look for their
+// templates.
 
 #include "host/rx/AcRxObject.h"
 #include "platform/base/WinTypes.h"
@@ -13,13 +15,14 @@ public:
     const AcRxClass* isA() const override { return desc(); }
 
     void pushResourceHandle(HINSTANCE handle);
-    // Popping an empty stack does nothing: the host's own resources stay in force.
+    // Puts back the handle that was in force before the last push. Popping an empty stack does
+    // nothing: the host's own resources stay in force.
     void popResourceHandle();
-    // The handle on top of the stack; null when nothing was pushed.
+    // The framework's current resource handle.
     HINSTANCE currentResourceHandle() const;
 
 private:
-    std::vector<HINSTANCE> resourceHandles;
+    std::vector<HINSTANCE> outerHandles; // in force before each push
 };
 
 // The host's document manager; null when no host is running.

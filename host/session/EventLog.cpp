@@ -4,8 +4,24 @@
 
 namespace host {
 
-void EventLog::Beep(unsigned frequency, unsigned milliseconds) {
-    out << ";; beep " << frequency << ' ' << milliseconds << std::endl;
+void EventLog::Alert(std::string_view text) {
+    Write("alert: ", text);
+    alertBoxPending = true;
+}
+
+void EventLog::Platform(std::string_view kind, std::string_view text) {
+    if (kind == "msgbox") {
+        if (alertBoxPending) {
+            alertBoxPending = false;
+            return;
+        }
+        Write("msgbox: ", text);
+    } else if (kind == "beep") {
+        Write("beep ", text);
+    } else {
+        // An event this log has no line of its own for still shows, in the common form.
+        Write(std::string(kind) + ": ", text);
+    }
 }
 
 void EventLog::Write(std::string_view kind, std::string_view text) {

@@ -4,8 +4,11 @@
 #include "host/lisp/ChainConverter.h"
 #include "host/lisp/UpperCase.h"
 #include "host/session/ScopedValue.h"
+#include "platform/user/User.h"
+#include "platform/user/WindowManager.h"
 
 #include <cassert>
+#include <utility>
 
 namespace host {
 
@@ -17,10 +20,15 @@ Host::Host(EventLog& events, Drawing drawing) : events(events), drawing(std::mov
     assert(!current && "only one Host runs at a time");
     current = this;
     registry.atPut(ACRX_DYNAMIC_LINKER, &linker);
+    outerEventHook = std::exchange(plat::WindowManager::Get().onEvent,
+                                   [this](const std::string& kind, const std::string& text) {
+                                       this->events.Platform(kind, text);
+                                   });
 }
 
 Host::~Host() {
     UnloadAll();
+    plat::WindowManager::Get().onEvent = std::move(outerEventHook);
     current = nullptr;
 }
 
@@ -68,6 +76,11 @@ LispOutcome Host::Call(std::string_view name, const std::vector<LispValue>& argu
     ScopedValue<LispCall*> scope(activeCall, &call);
     applications.Send(*target.application, AcRx::kInvkSubrMsg);
     return call.Result();
+}
+
+HWND Host::DialogOwner() const {
+    HWND active = GetActiveWindow();
+    return active ? active : mainWindow;
 }
 
 int Host::Defun(const char* name, int code) {

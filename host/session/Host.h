@@ -4,6 +4,8 @@
 // linker, document manager, main and document windows). One host runs at a time; the API's
 // free functions find it through Current() and refuse to work when there is none.
 //
+// While it runs, the window system's events (message boxes, beeps) go to its event log.
+//
 // Application messages go out as a CAD host sends them: kInitAppMsg and kLoadDwgMsg when a
 // module is loaded (the drawing is open from the start), kInvkSubrMsg for each call of a
 // function it defined, and on shutdown kUnloadDwgMsg to every module, then kUnloadAppMsg,
@@ -20,6 +22,7 @@
 #include "host/session/LispCall.h"
 #include "platform/base/WinTypes.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -61,6 +64,9 @@ public:
     HWND MainWindow() const { return mainWindow; }
     HWND DocWindow() const { return docWindow; }
     void SetWindows(HWND main, HWND document) { mainWindow = main, docWindow = document; }
+    // The owner of the host's own boxes and dialogs: the active window (a module's dialog while
+    // it runs, which must not take input meanwhile), else the main window.
+    HWND DialogOwner() const;
 
 private:
     Application& Start(Application& application);
@@ -75,6 +81,7 @@ private:
     LispCall* activeCall = nullptr;
     HWND mainWindow = nullptr;
     HWND docWindow = nullptr;
+    std::function<void(const std::string&, const std::string&)> outerEventHook;
 };
 
 } // namespace host

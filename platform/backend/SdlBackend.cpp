@@ -62,15 +62,6 @@ SdlBackend* SdlBackend::Open() {
     auto* b = new SdlBackend;
     SDL_DisplayMode mode;
     if (SDL_GetCurrentDisplayMode(0, &mode) == 0) b->screen = SIZE{mode.w, mode.h};
-    if (SDL_InitSubSystem(SDL_INIT_AUDIO) == 0) {
-        SDL_AudioSpec want{}, have{};
-        want.freq = 22050;
-        want.format = AUDIO_S16SYS;
-        want.channels = 1;
-        want.samples = 1024;
-        b->audio = SDL_OpenAudioDevice(nullptr, 0, &want, &have, 0);
-        if (b->audio) SDL_PauseAudioDevice(b->audio, 0);
-    }
     return b;
 }
 
@@ -217,6 +208,19 @@ bool SdlBackend::Wait(std::optional<DWORD> nextTimer) {
 }
 
 void SdlBackend::Beep(DWORD frequency, DWORD ms) {
+    // Sound is opened at the first beep: a machine without a sound card complains only then.
+    if (!audioTried) {
+        audioTried = true;
+        if (SDL_InitSubSystem(SDL_INIT_AUDIO) == 0) {
+            SDL_AudioSpec want{}, have{};
+            want.freq = 22050;
+            want.format = AUDIO_S16SYS;
+            want.channels = 1;
+            want.samples = 1024;
+            audio = SDL_OpenAudioDevice(nullptr, 0, &want, &have, 0);
+            if (audio) SDL_PauseAudioDevice(audio, 0);
+        }
+    }
     if (!audio) return;
     const int rate = 22050;
     std::vector<Sint16> samples(static_cast<size_t>(rate) * ms / 1000);

@@ -39,6 +39,7 @@ private:
     std::map<HWND, SDL_Window*> windows;
     std::set<HWND> dirty;
     SDL_AudioDeviceID audio = 0;
+    bool audioTried = false;
     HCURSOR shownCursor = nullptr;
     std::map<HCURSOR, SDL_Cursor*> cursors;
 };

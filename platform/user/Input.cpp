@@ -106,6 +106,8 @@ void PushClick(POINT screen, int button, bool doubleClick) {
     }
 }
 
+void ForgetLastClick() { State().lastClickWindow = nullptr; }
+
 std::optional<MSG> InputMessage(const RawInput& in) {
     InputState& s = State();
     MSG m;

@@ -16,6 +16,9 @@ void PushKey(int vk, bool shift = false, bool ctrl = false, bool alt = false);
 // Types one character: the key that makes it on a US keyboard, or the character alone.
 void PushChar(char c);
 void PushClick(POINT screen, int button, bool doubleClick = false);
+// The next press starts anew, however soon and near it comes: for scripted input, where no
+// time passes between one click and the next.
+void ForgetLastClick();
 
 // The message a raw event becomes for the current state, or none when it goes nowhere.
 std::optional<MSG> InputMessage(const RawInput& input);

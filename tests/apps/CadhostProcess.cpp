@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
+#include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <sstream>
@@ -46,6 +47,9 @@ CadhostResult RunCadhost(const CadhostRun& run) {
         dup2(out.fd, STDOUT_FILENO);
         dup2(err.fd, STDERR_FILENO);
         if (!run.workingDirectory.empty() && chdir(run.workingDirectory.c_str()) != 0) _exit(126);
+        // Without a display the program runs headless, whoever runs the tests.
+        unsetenv("DISPLAY");
+        unsetenv("WAYLAND_DISPLAY");
         for (const auto& [name, value] : run.environment) setenv(name.c_str(), value.c_str(), 1);
         std::vector<char*> argv{const_cast<char*>(CADHOST_PATH)};
         for (const std::string& a : run.arguments) argv.push_back(const_cast<char*>(a.c_str()));
@@ -65,4 +69,30 @@ CadhostResult RunCadhost(const CadhostRun& run) {
 CadhostResult RunWithEcho(std::vector<std::string> arguments) {
     arguments.insert(arguments.begin(), {"--module", ECHO_MODULE_PATH});
     return RunCadhost({arguments, "", "", {}});
+}
+
+CadhostResult RunWithScript(const std::string& script, std::vector<std::string> arguments) {
+    StreamFile file(script);
+    arguments.insert(arguments.begin(), {"--script", file.path});
+    return RunWithEcho(std::move(arguments));
+}
+
+Folder::Folder() {
+    char pattern[] = "/tmp/cadhost-folder-XXXXXX";
+    path = mkdtemp(pattern);
+}
+
+Folder::~Folder() {
+    std::filesystem::remove_all(path);
+}
+
+std::string Folder::Write(const std::string& name, const std::string& content) const {
+    std::string file = path + "/" + name;
+    std::ofstream(file, std::ios::binary) << content;
+    return file;
+}
+
+std::string Folder::Read(const std::string& name) const {
+    std::ifstream in(path + "/" + name, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(in), {});
 }

@@ -1,5 +1,6 @@
 #pragma once
 // Runs the cadhost program as a person would and collects what it printed and its exit status.
+// The program gets no display, so it runs headless.
 
 #include <string>
 #include <utility>
@@ -21,3 +22,20 @@ struct CadhostRun {
 CadhostResult RunCadhost(const CadhostRun& run);
 // The usual run: the echo module, the given arguments, no input.
 CadhostResult RunWithEcho(std::vector<std::string> arguments);
+// A usual run with a script of the given lines.
+CadhostResult RunWithScript(const std::string& script, std::vector<std::string> arguments);
+
+// A fresh folder for a test's files, removed afterwards.
+class Folder {
+public:
+    Folder();
+    ~Folder();
+    Folder(const Folder&) = delete;
+    Folder& operator=(const Folder&) = delete;
+
+    // Writes a file in the folder and answers its path.
+    std::string Write(const std::string& name, const std::string& content) const;
+    std::string Read(const std::string& name) const;
+
+    std::string path;
+};

@@ -3,33 +3,11 @@
 #include "tests/apps/CadhostProcess.h"
 
 #include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
 
 namespace {
 
 namespace fs = std::filesystem;
-
-// A fresh folder for a test's files, removed afterwards.
-class Folder {
-public:
-    Folder() {
-        char pattern[] = "/tmp/cadhost-folder-XXXXXX";
-        path = mkdtemp(pattern);
-    }
-    ~Folder() { fs::remove_all(path); }
-    std::string Write(const std::string& name, const std::string& content) const {
-        std::string file = path + "/" + name;
-        std::ofstream(file, std::ios::binary) << content;
-        return file;
-    }
-    std::string Read(const std::string& name) const {
-        std::ifstream in(path + "/" + name);
-        return std::string(std::istreambuf_iterator<char>(in), {});
-    }
-
-    std::string path;
-};
 
 TEST(CadhostRun, FormsOfAllSourcesRunInOrderAndShareVariables) {
     Folder folder;
@@ -42,14 +20,16 @@ TEST(CadhostRun, FormsOfAllSourcesRunInOrderAndShareVariables) {
 }
 
 TEST(CadhostRun, CallsWithoutAValuePrintNothing) {
-    const CadhostResult result = RunWithEcho(
-        {"-e", "(NOVALUE)", "-e", "(NILVALUE)", "-e", "(UNSET)", "-e", "(ALERT \"x\")"});
+    const CadhostResult result =
+        RunWithScript("key Enter\n", {"-e", "(NOVALUE)", "-e", "(NILVALUE)", "-e", "(UNSET)", "-e",
+                                      "(ALERT \"x\")"});
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.out, "nil\nnil\n;; alert: x\n");
 }
 
 TEST(CadhostRun, EventsPrintAsTheyHappenOneLineEach) {
-    const CadhostResult result = RunWithEcho(
+    const CadhostResult result = RunWithScript(
+        "key Enter\n",
         {"-e", R"((progn (ALERT "Count of layers\nnot equal") (FAIL "\n Error") (ECHO 1)))"});
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.out, ";; alert: Count of layers\\nnot equal\n;; fail: \\n Error\n(1)\n");

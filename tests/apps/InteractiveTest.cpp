@@ -17,6 +17,8 @@ TerminalRun RunAtTerminal(const std::string& typed) {
     int master = -1;
     const pid_t child = forkpty(&master, nullptr, nullptr, nullptr);
     if (child == 0) {
+        unsetenv("DISPLAY");
+        unsetenv("WAYLAND_DISPLAY");
         execl(CADHOST_PATH, CADHOST_PATH, "--module", ECHO_MODULE_PATH, nullptr);
         _exit(127);
     }

@@ -5,6 +5,11 @@
 #include "host/doc/AcApDocManager.h"
 #include "host/lisp/LispPrinter.h"
 #include "host/rx/AcRxDynamicLinker.h"
+#include "platform/afx/AfxApp.h"
+#include "platform/backend/HeadlessBackend.h"
+#include "platform/user/Dialog.h"
+#include "platform/user/Input.h"
+#include "platform/user/WindowManager.h"
 #include "tests/host/TestModule.h"
 
 #include <cstdlib>
@@ -183,8 +188,37 @@ TEST_F(HostTest, ResourceHandlesStack) {
     documents->pushResourceHandle(module1);
     documents->pushResourceHandle(module2);
     EXPECT_EQ(documents->currentResourceHandle(), module2);
+    EXPECT_EQ(AfxGetResourceHandle(), module2);
     documents->popResourceHandle();
     EXPECT_EQ(documents->currentResourceHandle(), module1);
+    documents->popResourceHandle();
+    EXPECT_EQ(AfxGetResourceHandle(), nullptr);
+}
+
+TEST(HostFileDialog, OpensInTheDrawingsFolderAndAnswersRtnormOrRterror) {
+    const std::filesystem::path folder = std::filesystem::path(testing::TempDir()) / "filed";
+    std::filesystem::create_directories(folder / "sub");
+    std::ostringstream transcript;
+    host::EventLog events{transcript};
+    host::Host session(events, *host::Drawing::At((folder / "plan.dwg").string()));
+    std::string shownFolder;
+    plat::Headless().Schedule([&] {
+        shownFolder = GetWindowString(GetDlgItem(GetActiveWindow(), 1088));
+        plat::PushKey(VK_ESCAPE);
+    });
+    resbuf result{};
+    EXPECT_EQ(acedGetFileD("Load", "plan", "tab", 0, &result), RTERROR);
+    EXPECT_EQ(result.restype, RTNONE);
+    EXPECT_EQ(shownFolder, folder.string());
+
+    // A relative folder in the default is the drawing's; the extension may come with its dot.
+    plat::Headless().Schedule([] { plat::PushKey(VK_RETURN); });
+    ASSERT_EQ(acedGetFileD("Save", "sub/plan", ".tab", 3, &result), RTNORM);
+    ASSERT_EQ(result.restype, RTSTR);
+    EXPECT_EQ(result.resval.rstring, (folder / "sub" / "plan.tab").string());
+    std::free(result.resval.rstring);
+    EXPECT_EQ(acedGetFileD("Save", "plan", "tab", 3, nullptr), RTERROR);
+    std::filesystem::remove_all(folder);
 }
 
 TEST_F(HostTest, WindowsAreTheOnesTheProgramGave) {
@@ -197,16 +231,45 @@ TEST_F(HostTest, WindowsAreTheOnesTheProgramGave) {
 }
 
 TEST_F(HostTest, EventsAreOneLineEach) {
+    // The alert's own box does not print again; the framework's box does.
+    plat::Headless().Schedule([] { plat::PushKey(VK_RETURN); });
     EXPECT_EQ(acedAlert("Count of layers\nnot equal"), RTNORM);
     acdbFail("\n Error");
-    events.MsgBox("Item not found");
-    events.Beep(1000, 50);
+    plat::Headless().Schedule([] { plat::PushKey(VK_RETURN); });
+    EXPECT_EQ(AfxMessageBox("Item not found"), IDOK);
+    Beep(1000, 50);
+    plat::ReportEvent("sound", "a\nb");
     events.Error("no function definition: X");
     EXPECT_EQ(transcript.str(), ";; alert: Count of layers\\nnot equal\n"
                                 ";; fail: \\n Error\n"
                                 ";; msgbox: Item not found\n"
                                 ";; beep 1000 50\n"
+                                ";; sound: a\\nb\n"
                                 ";; error: no function definition: X\n");
+}
+
+TEST_F(HostTest, AlertIsABoxOwnedByTheActiveWindow) {
+    std::vector<std::string> seen;
+    auto look = [&] {
+        HWND box = GetActiveWindow();
+        seen.push_back(GetWindowString(box) + " owned by " +
+                       GetWindowString(GetWindow(box, GW_OWNER)) +
+                       (ModalDepth() == 1 ? ", modal" : ""));
+        plat::PushKey(VK_RETURN);
+    };
+    const HWND main = CreateWindowEx(0, "Static", "Main", WS_POPUP | WS_VISIBLE, 0, 0, 100, 100,
+                                     nullptr, nullptr, nullptr, nullptr);
+    session->SetWindows(main, nullptr);
+    plat::Headless().Schedule(look);
+    acedAlert("first");
+    const HWND other = CreateWindowEx(0, "Static", "Other", WS_POPUP | WS_VISIBLE, 0, 0, 50, 50,
+                                      main, nullptr, nullptr, nullptr);
+    plat::Headless().Schedule(look);
+    acedAlert("second");
+    DestroyWindow(other);
+    DestroyWindow(main);
+    EXPECT_EQ(seen, (std::vector<std::string>{"AutoCAD owned by Main, modal",
+                                              "AutoCAD owned by Other, modal"}));
 }
 
 TEST_F(HostTest, ModuleFilesThatAreNoModulesAreRefusedWithTheReason) {
