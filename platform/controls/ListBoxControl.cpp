@@ -318,7 +318,7 @@ void ListBoxControl::OnKeyDown(WPARAM vk) {
     int from = std::clamp(caret, 0, n - 1);
     // With no selection the first arrow key selects the caret's item itself.
     bool none = selected < 0;
-    int target = from;
+    int target;
     switch (vk) {
     case VK_UP: target = none ? from : from - 1; break;
     case VK_DOWN: target = none ? from : from + 1; break;

@@ -87,7 +87,7 @@ int GetSystemMetrics(int index) {
     case SM_CXHSCROLL:
     case SM_CYVTHUMB:
     case SM_CXHTHUMB: return 16;
-    case SM_CYCAPTION: return 19;
+    case SM_CYCAPTION:
     case SM_CYMENU: return 19;
     case SM_CXBORDER:
     case SM_CYBORDER: return 1;

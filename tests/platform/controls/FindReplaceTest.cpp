@@ -34,6 +34,7 @@ protected:
             if (msg != message) return false;
             auto* sent = reinterpret_cast<FINDREPLACE*>(lParam);
             EXPECT_EQ(sent, &fr);
+            if (!sent) return true;
             requests.push_back(
                 Request{sent->Flags, sent->lpstrFindWhat, replacing ? sent->lpstrReplaceWith : ""});
             return true;
