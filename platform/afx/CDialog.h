@@ -16,6 +16,7 @@ public:
     ~CDialog() override;
 
     virtual INT_PTR DoModal();
+    using CWnd::Create;
     BOOL Create(CWnd* parent = nullptr);
     void EndDialog(int result);
     BOOL UpdateData(BOOL save = TRUE);

@@ -33,6 +33,7 @@ bool ReadFormat(const BITMAPINFOHEADER& h, DibFormat& f) {
     case 1:
     case 4:
     case 8:
+    case 16:
     case 24:
     case 32: break;
     default: return false;
@@ -66,6 +67,12 @@ std::uint32_t SourcePixel(const DibFormat& f, const BYTE* row, const BYTE* table
     case 1: return PaletteEntry(table, f.colors, (row[x / 8] >> (7 - x % 8)) & 1);
     case 4: return PaletteEntry(table, f.colors, (row[x / 2] >> (x % 2 ? 0 : 4)) & 0xF);
     case 8: return PaletteEntry(table, f.colors, row[x]);
+    case 16: {
+        // Five bits each of red, green and blue, widened by repeating their top bits.
+        unsigned v = row[2 * x] | (row[2 * x + 1] << 8);
+        auto widen = [](unsigned c) { return (c << 3) | (c >> 2); };
+        return 0xFF000000u | (widen((v >> 10) & 31) << 16) | (widen((v >> 5) & 31) << 8) | widen(v & 31);
+    }
     case 24: return 0xFF000000u | (row[3 * x + 2] << 16) | (row[3 * x + 1] << 8) | row[3 * x];
     default: return 0xFF000000u | (row[4 * x + 2] << 16) | (row[4 * x + 1] << 8) | row[4 * x];
     }

@@ -1,0 +1,12 @@
+#pragma once
+// A navigation arrow in the middle of the cell, chosen by the cell's type option: 0x10 (or no
+// option) right, 0x20 left, 0x40 double right, 0x80 double left. It takes no input and opens
+// no editor; only its drawing differs from plain text. Known debt: that drawing comes with
+// the drawing operations of CellType.
+
+#include "grid/cells/NormalCellType.h"
+
+class MarkerCellType : public NormalCellType {
+public:
+    MarkerCellType() { editable = 0; }
+};
