@@ -168,11 +168,17 @@ BOOL InvalidateRgn(HWND hwnd, HRGN rgn, BOOL erase) {
 BOOL ValidateRect(HWND hwnd, const RECT* r) {
     Window* w = W(hwnd);
     if (!w) return FALSE;
-    RECT area = r ? *r : w->ClientRect();
-    cairo_rectangle_int_t cr = Cairo(area);
+    if (!r) {
+        // All of it, also what was left outside a client area that has since shrunk.
+        cairo_region_destroy(Update(w));
+        w->update = nullptr;
+        w->erasePending = false;
+        w->internalPaint = false;
+        return TRUE;
+    }
+    cairo_rectangle_int_t cr = Cairo(*r);
     cairo_region_subtract_rectangle(Update(w), &cr);
     if (cairo_region_is_empty(w->update)) w->erasePending = false;
-    if (!r) w->internalPaint = false;
     return TRUE;
 }
 

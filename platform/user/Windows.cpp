@@ -329,6 +329,12 @@ BOOL SetWindowPos(HWND hwnd, HWND after, int x, int y, int width, int height, UI
     w->rect = now;
     PlaceClientArea(w);
     if (!w->IsChild() && sized) EnsureSurface(w);
+    if (sized && w->update) {
+        // Nothing outside the new client area can be painted any more.
+        RECT client = w->ClientRect();
+        cairo_rectangle_int_t cr{0, 0, client.right, client.bottom};
+        cairo_region_intersect_rectangle(w->update, &cr);
+    }
     if (moved || sized) {
         WINDOWPOS pos{hwnd, after, now.left, now.top, RectWidth(now), RectHeight(now), flags};
         SendMessage(hwnd, WM_WINDOWPOSCHANGED, 0, reinterpret_cast<LPARAM>(&pos));

@@ -101,3 +101,21 @@ TEST(Paint, HiddenChildUncoversItsParent) {
     Pump();
     EXPECT_EQ(Pixel(w.top, 50, 50), RGB(0, 0, 255));
 }
+
+TEST(Paint, ShrunkWindowIsValidatedWhole) {
+    Windows w(0);
+    InvalidateRect(w.child, nullptr, FALSE);
+    MoveWindow(w.child, 40, 40, 10, 10, FALSE);
+    ValidateRect(w.child, nullptr);
+    MSG msg;
+    EXPECT_FALSE(PeekMessage(&msg, w.child, WM_PAINT, WM_PAINT, PM_NOREMOVE));
+    // And a region left from before the shrink does not outlive it either.
+    RECT wide{0, 0, 20, 20};
+    MoveWindow(w.child, 40, 40, 20, 20, FALSE);
+    ValidateRect(w.child, nullptr);
+    InvalidateRect(w.child, &wide, FALSE);
+    MoveWindow(w.child, 40, 40, 10, 10, FALSE);
+    RECT left{0, 0, 10, 10};
+    ValidateRect(w.child, &left);
+    EXPECT_FALSE(PeekMessage(&msg, w.child, WM_PAINT, WM_PAINT, PM_NOREMOVE));
+}
