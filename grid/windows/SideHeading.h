@@ -1,0 +1,11 @@
+#pragma once
+// The heading beside the cells (section 3). Refresh gives the outermost heading column what is
+// left of the heading's width after the other columns.
+
+#include "grid/windows/HeadingWindow.h"
+
+class SideHeading : public HeadingWindow {
+public:
+    SideHeading() : HeadingWindow(3) {}
+    void Refresh() override;
+};
