@@ -18,7 +18,11 @@ namespace {
 
 constexpr int Rows = 100000, Cols = 10;
 
-std::string CellText(int col, int row) { return "r" + std::to_string(row) + "c" + std::to_string(col); }
+std::string CellText(int col, int row) {
+    char text[32];
+    std::snprintf(text, sizeof text, "r%dc%d", row, col);
+    return text;
+}
 
 HWND Parent() {
     static HWND parent = [] {
