@@ -160,7 +160,7 @@ public:
                 if (it != run.counters.end()) std::printf("kervgrid %s %.1f B\n", name.c_str(), it->second.value);
             } else {
                 double ms = run.GetAdjustedRealTime();
-                std::printf("kervgrid %s %.3f ms\n", name.c_str(), ms);
+                std::printf("kervgrid %s %.4g ms\n", name.c_str(), ms);
             }
             std::fflush(stdout);
         }
