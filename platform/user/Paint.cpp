@@ -278,12 +278,15 @@ BOOL EndPaint(HWND hwnd, const PAINTSTRUCT* ps) {
 HDC GetDC(HWND hwnd) {
     Window* w = W(hwnd);
     if (!w || w == WM().Desktop()) {
-        // The screen itself: a scratch surface of its size, for measuring.
+        // The screen itself: a scratch surface of its size, for measuring. Made once per screen
+        // size rather than per call, since every dialog measures its font through it.
+        static cairo_surface_t* screen = nullptr;
         SIZE s = WM().GetBackend().ScreenSize();
-        cairo_surface_t* surface = cairo_image_surface_create(CAIRO_FORMAT_RGB24, s.cx, s.cy);
-        HDC dc = CreateSurfaceDC(surface, POINT{}, nullptr);
-        cairo_surface_destroy(surface);
-        return dc;
+        if (!screen || cairo_image_surface_get_width(screen) != s.cx || cairo_image_surface_get_height(screen) != s.cy) {
+            if (screen) cairo_surface_destroy(screen);
+            screen = cairo_image_surface_create(CAIRO_FORMAT_RGB24, s.cx, s.cy);
+        }
+        return CreateSurfaceDC(screen, POINT{}, nullptr);
     }
     return WindowContext(w, nullptr);
 }
