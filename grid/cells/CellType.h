@@ -9,12 +9,13 @@
 // answer on to the grid's notification of the same event. The base class takes no event: it
 // is by itself the type of plain text cells.
 //
-// Known debt: the drawing operations (Draw, DrawScaled, GetBestSize and the shared steps for
-// borders, text, bitmaps and text overflow) are not written yet; printScale waits for them.
+// Known debt: the drawing operations (Draw, DrawScaled and the shared steps for borders, text,
+// bitmaps and text overflow) are not written yet; printScale waits for them.
 
 #include "platform/afx/CObject.h"
 #include "platform/base/WinTypes.h"
 
+class CDC;
 class CellTypeGrid;
 class GridCell;
 
@@ -40,6 +41,9 @@ public:
     // The cell became, or stopped being, the current cell; `cell` is the merged cell.
     virtual void NotifyEnter(int col, int row, GridCell* cell);
     virtual void NotifyLeave(int col, int row, GridCell* cell);
+    // The room the cell needs to show itself whole: for plain text its extent in the cell's font
+    // (or the grid's default font) plus a margin; 9 by 5 for an empty cell.
+    virtual void GetBestSize(CDC* dc, SIZE* size, const GridCell& cell);
 
     // 0 makes the grid refuse to open an editor on cells of this type.
     int GetEditable() const { return editable; }

@@ -6,6 +6,7 @@
 
 #include "platform/base/WinTypes.h"
 
+class CFont;
 class GridCell;
 
 class CellTypeGrid {
@@ -17,6 +18,8 @@ public:
     virtual int RedrawCell(int col, int row) = 0;
     virtual int GetCurrentCol() const = 0;
     virtual int GetCurrentRow() const = 0;
+    // The font of cells that name none; may be none.
+    virtual CFont* GetDefaultFont() const = 0;
     // `parameter` is an integer or a pointer, as the event says.
     virtual int NotifyCellTypeEvent(int typeId, int col, int row, int event, LPARAM parameter) = 0;
 

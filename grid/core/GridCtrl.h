@@ -301,6 +301,7 @@ public:
     int ResetCurrentCell();
     int GetCurrentCol() const override { return sheet->currentCol; }
     int GetCurrentRow() const override { return sheet->currentRow; }
+    CFont* GetDefaultFont() const override { return sheet->defaultFont; }
     int GetLeftCol() const { return sheet->leftCol; }
     int GetRightCol() const { return sheet->rightCol; }
     int GetTopRow() const { return sheet->topRow; }
@@ -453,6 +454,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    // The registered type that a merged cell names, or the normal type.
+    CellType* TypeOf(const GridCell& cell);
     // Reads the stored cell into scratchCell, lets `change` set one property, writes it back.
     template <typename Change> int Shortcut(int col, int row, Change change) {
         GetCell(col, row, scratchCell);

@@ -76,8 +76,11 @@ const char* GridCtrl::GetCellText(int col, int row) {
 
 CellType* GridCtrl::GetCellTypeAt(int col, int row) {
     GetEffectiveCell(col, row, scratchCell);
-    if (scratchCell.HasProperty(PropCellType)) return GetCellType(scratchCell.GetCellType());
-    return &normalCellType;
+    return TypeOf(scratchCell);
+}
+
+CellType* GridCtrl::TypeOf(const GridCell& cell) {
+    return cell.HasProperty(PropCellType) ? GetCellType(cell.GetCellType()) : &normalCellType;
 }
 
 int GridCtrl::GetColumnDefault(int col, GridCell& cell) {

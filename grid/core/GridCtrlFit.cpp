@@ -5,25 +5,7 @@
 #include "platform/afx/CClientDC.h"
 
 #include <algorithm>
-#include <cstring>
 #include <vector>
-
-namespace {
-
-// The width a cell needs: its text's extent in its font (or the sheet's), plus 6; 9 for a cell
-// without text. Known debt: this is the measure of the plain text type, which moves to
-// CellType::GetBestSize when the cell types draw, so that each type measures itself.
-int BestWidth(CDC& dc, const GridCell& cell, CFont* defaultFont) {
-    CFont* font = cell.HasProperty(PropFont) ? cell.GetFont() : defaultFont;
-    HGDIOBJ old = font ? dc.SelectObject(font->GetSafeHandle()) : nullptr;
-    SIZE size{3, 3};
-    if (const char* text = cell.GetText())
-        GetTextExtentPoint32(dc, text, cell.GetTextLength(), &size);
-    if (old) dc.SelectObject(old);
-    return size.cx + 6;
-}
-
-} // namespace
 
 int GridCtrl::BestFitCols(int firstCol, int lastCol, int rowsToScan, int flags) {
     GridSheet& s = *sheet;
@@ -41,8 +23,10 @@ int GridCtrl::BestFitCols(int firstCol, int lastCol, int rowsToScan, int flags) 
             for (int col = firstCol; col <= lastCol; ++col) {
                 GetEffectiveCell(col, row, scratchCell);
                 if (scratchCell.HasProperty(PropJoin)) continue;
+                SIZE size{};
+                TypeOf(scratchCell)->GetBestSize(&dc, &size, scratchCell);
                 int& width = widths[static_cast<size_t>(col - firstCol)];
-                width = std::max(width, BestWidth(dc, scratchCell, s.defaultFont));
+                width = std::max(width, static_cast<int>(size.cx));
             }
             if (++scanned == rowsToScan) break;
         }

@@ -283,6 +283,16 @@ TEST(RowsCols, BestFitMeasuresTheCellsItScans) {
     grid.view->GetClientRect(&client);
     EXPECT_EQ(grid.GetColWidth(2), client.right - grid.GetVScrollWidth());
 
+    // A registered type measures its own cells.
+    struct WideType : CellType {
+        void GetBestSize(CDC*, SIZE* size, const GridCell&) override { *size = SIZE{40, 5}; }
+    } wideType;
+    GridCell typed;
+    typed.SetCellType(grid.AddCellType(&wideType));
+    grid.SetCell(0, 1, typed);
+    grid.BestFitCols(0, 0, 0, 0);
+    EXPECT_EQ(grid.GetColWidth(0), 42);
+
     EXPECT_EQ(grid.BestFitCols(-2, 0, 0, 0), 1);
     EXPECT_EQ(grid.BestFitCols(0, 3, 0, 0), 2);
     EXPECT_EQ(grid.BestFitCols(2, 1, 0, 0), 3);

@@ -42,6 +42,7 @@ public:
     }
     int GetCurrentCol() const override { return currentCol; }
     int GetCurrentRow() const override { return currentRow; }
+    CFont* GetDefaultFont() const override { return nullptr; }
     int NotifyCellTypeEvent(int typeId, int col, int row, int event, LPARAM parameter) override {
         events.push_back({typeId, col, row, event, static_cast<int>(parameter)});
         return 1;
