@@ -3,6 +3,7 @@
 #include "platform/controls/ButtonControl.h"
 #include "platform/controls/EditControl.h"
 #include "platform/controls/ListBoxControl.h"
+#include "platform/controls/MenuWindow.h"
 #include "platform/controls/ScrollBarControl.h"
 #include "platform/controls/StaticControl.h"
 #include "platform/controls/ToolTipControl.h"
@@ -16,6 +17,7 @@ void RegisterControlClasses() {
     ListBoxControl::Register();
     ScrollBarControl::Register();
     ToolTipControl::Register();
+    MenuWindow::Register();
 }
 
 } // namespace plat

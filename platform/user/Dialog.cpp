@@ -11,6 +11,7 @@
 
 #include "platform/gdi/Gdi.h"
 #include "platform/user/Internal.h"
+#include "platform/user/MenuTracker.h"
 
 using namespace plat;
 
@@ -279,9 +280,11 @@ BOOL EndDialog(HWND dialog, INT_PTR result) {
     return TRUE;
 }
 
-int ModalDepth() { return static_cast<int>(ModalStack().size()); }
+int ModalDepth() { return static_cast<int>(ModalStack().size()) + (MenuTracker::Current() ? 1 : 0); }
 
 void EndAllModalLoops(INT_PTR result) {
+    // A menu is the innermost loop wherever it was opened.
+    EndMenu();
     std::vector<HWND> stack = ModalStack();
     for (auto it = stack.rbegin(); it != stack.rend(); ++it) EndDialog(*it, result);
 }

@@ -52,7 +52,7 @@ UINT GetDlgItemInt(HWND dialog, int id, BOOL* ok, BOOL isSigned);
 LRESULT SendDlgItemMessage(HWND dialog, int id, UINT msg, WPARAM wParam, LPARAM lParam);
 BOOL CheckDlgButton(HWND dialog, int id, UINT check);
 UINT IsDlgButtonChecked(HWND dialog, int id);
-// Whether a modal dialog, message box or file dialog is running a loop now.
+// How many modal loops run now: of dialogs, message boxes, file dialogs and a popup menu.
 int ModalDepth();
 // Ends every modal loop with `result`, innermost first: for a program that must stop.
 void EndAllModalLoops(INT_PTR result);

@@ -173,8 +173,10 @@ void CommitInput(const RawInput& in, const MSG& m) {
         s.lastClickMessage = downMsg[in.button];
         s.lastClickTime = in.time;
         s.lastClickPoint = in.screen;
+        // A window made never to take the activation (an open menu) leaves it where it is.
         Window* w = W(m.hwnd);
-        if (w && w->TopLevel()->handle != WM().active) SetActiveWindow(w->TopLevel()->handle);
+        Window* top = w ? w->TopLevel() : nullptr;
+        if (top && top->handle != WM().active && !(top->exStyle & WS_EX_NOACTIVATE)) SetActiveWindow(top->handle);
     }
     if (in.kind == RawInput::MouseMove || in.kind == RawInput::ButtonDown)
         if (W(m.hwnd))

@@ -1,6 +1,7 @@
 #pragma once
 // The window manager's services under the names programs of the real system use: windows and
-// their classes, messages and the queue, focus, capture, painting, timers, input and dialogs.
+// their classes, messages and the queue, focus, capture, painting, timers, input and dialogs;
+// menus and bitmap resources have headers of their own, included here.
 // One thread owns everything; there are no locks.
 
 #include <cstddef>
@@ -9,6 +10,8 @@
 #include "platform/base/Messages.h"
 #include "platform/base/Rect.h"
 #include "platform/base/WinTypes.h"
+#include "platform/user/BitmapResources.h"
+#include "platform/user/Menu.h"
 
 struct WNDCLASS {
     UINT style = 0;
