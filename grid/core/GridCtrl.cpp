@@ -17,6 +17,7 @@ GridCtrl::GridCtrl()
       vScroll(std::make_unique<GridVScroll>()), hScroll(std::make_unique<GridHScroll>()),
       hintWindow(std::make_unique<HintWindow>()), tabs(std::make_unique<SheetTabs>()) {
     RebuildPens();
+    popupMenu.CreatePopupMenu();
     // Only the base class hears NotifySheetCreated(0) here; both creation paths fire it again.
     SetSheetCount(1);
     GiveChildrenSheet();

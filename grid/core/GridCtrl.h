@@ -34,9 +34,9 @@
 #include "grid/cells/SelectionGrid.h"
 #include "grid/cells/SourceGrid.h"
 #include "grid/core/GridSheet.h"
-#include "grid/core/PopupMenu.h"
 #include "grid/core/PtrList.h"
 #include "grid/windows/GridEdit.h"
+#include "platform/afx/CMenu.h"
 #include "platform/afx/CPen.h"
 #include "platform/afx/CWnd.h"
 
@@ -210,11 +210,15 @@ public:
     virtual void NotifyFloatingDialogMoved(RECT* oldRect, RECT* newRect);
 
     // --- Context menu ---
-    PopupMenu* GetPopupMenu() { return &popupMenu; }
+    CMenu* GetPopupMenu() { return &popupMenu; }
     int ClearPopupMenu();
     // An empty text or the id -1 appends a separator. Client ids start at 1000.
     int AddPopupItem(int id, const std::string& text);
     int RemovePopupItem(int id);
+    // Opens the menu at a point in screen coordinates for a press on a cell (section 1),
+    // a heading (2, 3), the corner (4), a scroll bar (5, 6) or a tab (7). 1 while the menu
+    // is off, 2 when QueryMenuStart refused, 3 when the menu could not be shown.
+    int ShowContextMenu(int col, int row, POINT* point, int section);
 
     // --- Cell access ---
     // What the source stores, with no layer: 1 for a col at or past colCount.
@@ -389,6 +393,9 @@ public:
     CFont* GetFont(int index);
     int SetDefaultFontByIndex(int index);
     // -1 when the file cannot be read as an uncompressed BMP.
+    // From the resources of the module the framework looks in: by name when one is given,
+    // else by the low 16 bits of id. -1 when there is no such bitmap.
+    int AddBitmapResource(UINT id, const char* name = nullptr);
     int AddBitmapFile(const std::string& path);
     int RemoveBitmap(int index);
     int ClearBitmaps();
@@ -405,7 +412,7 @@ public:
     DropListCellType dropListCellType;
     CheckBoxCellType checkBoxCellType;
     MarkerCellType markerCellType;
-    PopupMenu popupMenu;
+    CMenu popupMenu;
     int menuCol = 0;
     int menuRow = 0;
     int menuSection = 0;
@@ -454,6 +461,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    // Adds a bitmap to the list, which then owns it; -1 when the list cannot grow.
+    int KeepBitmap(std::unique_ptr<CBitmap> bitmap);
     // The registered type that a merged cell names, or the normal type.
     CellType* TypeOf(const GridCell& cell);
     // Reads the stored cell into scratchCell, lets `change` set one property, writes it back.

@@ -130,16 +130,27 @@ int GridCtrl::CanDropColumn(int, int) {
 void GridCtrl::NotifyFloatingDialogMoved(RECT*, RECT*) {}
 
 int GridCtrl::ClearPopupMenu() {
-    while (popupMenu.DeleteItem(0, MF_BYPOSITION)) {
+    while (popupMenu.DeleteMenu(0, MF_BYPOSITION)) {
     }
     return 0;
 }
 
 int GridCtrl::AddPopupItem(int id, const std::string& text) {
-    UINT flags = text.empty() || id == -1 ? MF_SEPARATOR : 0;
-    return popupMenu.AppendItem(flags, id, text) ? 0 : 1;
+    UINT flags = text.empty() || id == -1 ? MF_SEPARATOR : MF_STRING;
+    return popupMenu.AppendMenu(flags, static_cast<UINT_PTR>(id), text.c_str()) ? 0 : 1;
 }
 
 int GridCtrl::RemovePopupItem(int id) {
-    return popupMenu.DeleteItem(id, 0) ? 0 : 1;
+    return popupMenu.DeleteMenu(static_cast<UINT>(id), MF_BYCOMMAND) ? 0 : 1;
+}
+
+int GridCtrl::ShowContextMenu(int col, int row, POINT* point, int section) {
+    if (!sheet->popupMenuEnabled) return 1;
+    GetJoinedMain(&col, &row);
+    if (!QueryMenuStart(col, row, section)) return 2;
+    menuCol = col;
+    menuRow = row;
+    menuSection = section;
+    // The chosen item comes back later as a WM_COMMAND to the control (OnCommand).
+    return popupMenu.TrackPopupMenu(TPM_RIGHTBUTTON, point->x, point->y, this) ? 0 : 3;
 }

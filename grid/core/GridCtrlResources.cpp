@@ -4,9 +4,12 @@
 
 #include "grid/core/BmpReader.h"
 #include "grid/core/GridCtrl.h"
+#include "platform/afx/CBitmap.h"
 
 #include <cstddef>
 #include <cstring>
+#include <memory>
+#include <utility>
 
 static_assert(offsetof(LOGFONT, lfFaceName) == 28, "the fixed part of a font description");
 
@@ -103,11 +106,22 @@ int GridCtrl::SetDefaultFontByIndex(int index) {
     return font ? SetDefaultFont(font) : 1;
 }
 
+int GridCtrl::AddBitmapResource(UINT id, const char* name) {
+    auto bitmap = std::make_unique<CBitmap>();
+    const BOOL loaded = name ? bitmap->LoadBitmap(name) : bitmap->LoadBitmap(id & 0xFFFF);
+    // An empty bitmap object in the list would only draw nothing later; say so now instead.
+    return loaded ? KeepBitmap(std::move(bitmap)) : -1;
+}
+
 int GridCtrl::AddBitmapFile(const std::string& path) {
     BmpResult read = ReadBmpFile(path);
-    if (!read.bitmap) return -1;
-    const int index = bitmaps.Add(read.bitmap.get(), 0);
-    if (index >= 0) read.bitmap.release();
+    return read.bitmap ? KeepBitmap(std::move(read.bitmap)) : -1;
+}
+
+int GridCtrl::KeepBitmap(std::unique_ptr<CBitmap> bitmap) {
+    const int index = bitmaps.Add(bitmap.get(), 0);
+    // The list owns what it holds; what it could not take goes with the pointer.
+    if (index >= 0) bitmap.release();
     return index;
 }
 

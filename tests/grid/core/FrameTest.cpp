@@ -5,6 +5,7 @@
 #include "grid/windows/GridView.h"
 #include "platform/afx/CDialog.h"
 #include "platform/backend/HeadlessBackend.h"
+#include "platform/user/Input.h"
 #include "tests/grid/core/GridHost.h"
 
 #include <functional>
@@ -200,28 +201,59 @@ TEST(Frame, SheetsKeepTheirOwnTablesAndShareTheTabStripWidth) {
     EXPECT_EQ(grid.GetTopHeadingHeight(), 30);
 }
 
-TEST(Frame, ContextMenuItemsAndCommands) {
+TEST(Frame, ContextMenuOpensOnTheJoinsMainCellAndReportsClientCommands) {
     GridHost host;
     RecordingGrid& grid = host.grid;
-    grid.Take();
+    Fill(grid, 4, 4);
+    grid.EnableJoins(1);
+    grid.JoinCells(1, 1, 2, 2);
     EXPECT_EQ(grid.AddPopupItem(1000, "Copy"), 0);
     EXPECT_EQ(grid.AddPopupItem(-1, "ignored"), 0);
     EXPECT_EQ(grid.AddPopupItem(1001, ""), 0);
     EXPECT_EQ(grid.AddPopupItem(1002, "Paste"), 0);
-    const auto& items = grid.GetPopupMenu()->Items();
-    ASSERT_EQ(items.size(), 4u);
-    EXPECT_TRUE(items[1].separator);
-    EXPECT_TRUE(items[2].separator);
+    EXPECT_EQ(grid.AddPopupItem(999, "Framework's"), 0);
+    CMenu* menu = grid.GetPopupMenu();
+    EXPECT_EQ(menu->GetMenuItemID(1), 0u);
+    EXPECT_EQ(menu->GetMenuItemID(2), 0u);
     EXPECT_EQ(grid.RemovePopupItem(1002), 0);
     EXPECT_EQ(grid.RemovePopupItem(1002), 1);
-    EXPECT_EQ(grid.GetPopupMenu()->GetItemCount(), 3);
-    EXPECT_EQ(grid.ClearPopupMenu(), 0);
-    EXPECT_EQ(grid.GetPopupMenu()->GetItemCount(), 0);
+    EXPECT_EQ(menu->GetMenuItemCount(), 4u);
+    grid.Take();
 
-    grid.menuCol = 2, grid.menuRow = 5, grid.menuSection = 1;
+    POINT at{120, 90};
+    EXPECT_EQ(grid.ShowContextMenu(2, 2, &at, 1), 1);
+    grid.EnablePopupMenu(1);
+    grid.allowMenu = 0;
+    EXPECT_EQ(grid.ShowContextMenu(2, 2, &at, 1), 2);
+    EXPECT_EQ(grid.Take(), (Strings{"MenuStart 1 1 1"}));
+
+    // The first item, chosen with the keys while the menu's own loop runs; its command is
+    // posted and arrives once the menu has closed.
+    grid.allowMenu = 1;
+    plat::Headless().Schedule([] { plat::PushKey(VK_DOWN); });
+    plat::Headless().Schedule([] { plat::PushKey(VK_RETURN); });
+    EXPECT_EQ(grid.ShowContextMenu(2, 2, &at, 1), 0);
+    EXPECT_EQ(grid.Take(), (Strings{"MenuStart 1 1 1"}));
+    GridHost::Pump();
+    EXPECT_EQ(grid.Take(), (Strings{"MenuCommand 1 1 1 1000"}));
+
+    // The right button chooses too.
+    plat::Headless().Schedule([menu] {
+        RECT item;
+        ASSERT_TRUE(GetMenuItemRect(nullptr, *menu, 0, &item));
+        plat::ForgetLastClick();
+        plat::PushClick(POINT{item.left + 5, item.top + 3}, 1);
+    });
+    EXPECT_EQ(grid.ShowContextMenu(-1, -1, &at, 4), 0);
+    GridHost::Pump();
+    EXPECT_EQ(grid.Take(), (Strings{"MenuStart -1 -1 4", "MenuCommand -1 -1 4 1000"}));
+    EXPECT_EQ(grid.ClearPopupMenu(), 0);
+    EXPECT_EQ(menu->GetMenuItemCount(), 0u);
+
+    // Ids below 1000 go to the framework alone.
     grid.SendMessage(WM_COMMAND, 999);
-    grid.SendMessage(WM_COMMAND, 1000);
-    EXPECT_EQ(grid.Take(), (Strings{"MenuCommand 2 5 1 1000"}));
+    grid.SendMessage(WM_COMMAND, 1001);
+    EXPECT_EQ(grid.Take(), (Strings{"MenuCommand -1 -1 4 1001"}));
     EXPECT_EQ(grid.SendMessage(WM_GETDLGCODE),
               static_cast<LRESULT>(DLGC_WANTARROWS | DLGC_WANTALLKEYS));
 }

@@ -77,6 +77,11 @@ void RecordingGrid::NotifyMenuCommand(int col, int row, int section, int id) {
     Record(Line("MenuCommand", {col, row, section, id}));
 }
 
+int RecordingGrid::QueryMenuStart(int col, int row, int section) {
+    Record(Line("MenuStart", {col, row, section}));
+    return allowMenu;
+}
+
 void RecordingGrid::AdjustChildRects(RECT* view, RECT*, RECT*, RECT*, RECT*, RECT*, RECT*) {
     if (onAdjust) onAdjust(view);
 }

@@ -24,6 +24,7 @@ public:
     void NotifyCellRead(int sourceCol, int row, GridCell* cell) override;
     void NotifyCellWrite(int col, int row, GridCell* cell) override;
     void NotifyMenuCommand(int col, int row, int section, int id) override;
+    int QueryMenuStart(int col, int row, int section) override;
     void AdjustChildRects(RECT* view, RECT* topHeading, RECT* sideHeading, RECT* corner,
                           RECT* vScroll, RECT* hScroll, RECT* tabs) override;
     void NotifyFloatingDialogMoved(RECT* oldRect, RECT* newRect) override;
@@ -36,6 +37,7 @@ public:
     bool recordReads = false;
     int allowMove = 1;
     int allowScroll = 1;
+    int allowMenu = 1;
     // Rows that NotifyPastLastRow adds, as a client that grows its table on demand would.
     int rowsToAdd = 0;
     // Runs inside NotifyCellRead, to change the cell as a layer of its own.

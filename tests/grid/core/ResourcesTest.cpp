@@ -2,7 +2,9 @@
 // when an entry leaves its list.
 
 #include "grid/core/GridCtrl.h"
+#include "platform/afx/AfxApp.h"
 #include "platform/afx/CBitmap.h"
+#include "platform/user/BitmapResources.h"
 
 #include <cstdio>
 #include <filesystem>
@@ -73,12 +75,14 @@ TEST(Resources, FontsAreSharedByTheirFullDescription) {
 namespace {
 
 // A 2 by 2 bitmap of 24 bits, rows padded to 8 bytes.
-std::string WriteBmp(const std::filesystem::path& path) {
-    unsigned char file[14 + 40 + 16] = {'B', 'M'};
+// A 2 x 2 picture of 24 bits per pixel, every byte 0x7F.
+std::string TwoByTwoBmp() {
+    std::string file(14 + 40 + 16, '\0');
     auto put = [&file](int at, unsigned value, int bytes) {
-        for (int i = 0; i < bytes; ++i) file[at + i] = static_cast<unsigned char>(value >> (8 * i));
+        for (int i = 0; i < bytes; ++i) file[at + i] = static_cast<char>(value >> (8 * i));
     };
-    put(2, sizeof file, 4);
+    file[0] = 'B', file[1] = 'M';
+    put(2, static_cast<unsigned>(file.size()), 4);
     put(10, 54, 4);
     put(14, 40, 4);
     put(18, 2, 4);
@@ -86,9 +90,20 @@ std::string WriteBmp(const std::filesystem::path& path) {
     put(26, 1, 2);
     put(28, 24, 2);
     put(34, 16, 4);
-    for (int i = 54; i < 70; ++i) file[i] = 0x7F;
-    std::ofstream(path, std::ios::binary).write(reinterpret_cast<const char*>(file), sizeof file);
+    for (size_t i = 54; i < file.size(); ++i) file[i] = 0x7F;
+    return file;
+}
+
+std::string WriteBmp(const std::filesystem::path& path) {
+    std::ofstream(path, std::ios::binary) << TwoByTwoBmp();
     return path.string();
+}
+
+void ExpectTwoByTwo(CBitmap* bitmap) {
+    BITMAP info{};
+    ASSERT_NE(bitmap->GetBitmap(&info), 0);
+    EXPECT_EQ(info.bmWidth, 2);
+    EXPECT_EQ(info.bmHeight, 2);
 }
 
 } // namespace
@@ -106,10 +121,7 @@ TEST(Resources, BitmapsComeFromFilesAndStayWithTheirCells) {
     EXPECT_EQ(grid.AddBitmapFile((folder / "bad.bmp").string()), -1);
     const int index = grid.AddBitmapFile(good);
     ASSERT_EQ(index, 0);
-    BITMAP info{};
-    ASSERT_NE(grid.GetBitmap(index)->GetBitmap(&info), 0);
-    EXPECT_EQ(info.bmWidth, 2);
-    EXPECT_EQ(info.bmHeight, 2);
+    ExpectTwoByTwo(grid.GetBitmap(index));
 
     grid.SetCellBitmapByIndex(0, 0, index);
     GridCell cell;
@@ -118,7 +130,7 @@ TEST(Resources, BitmapsComeFromFilesAndStayWithTheirCells) {
     EXPECT_EQ(held, grid.GetBitmap(index));
     EXPECT_EQ(grid.RemoveBitmap(index), 0);
     EXPECT_EQ(grid.GetBitmap(index), nullptr);
-    EXPECT_NE(held->GetBitmap(&info), 0);
+    ExpectTwoByTwo(held);
     grid.SetCellBitmapByIndex(0, 0, index);
     grid.GetCell(0, 0, cell);
     EXPECT_FALSE(cell.HasProperty(PropBitmap));
@@ -126,4 +138,25 @@ TEST(Resources, BitmapsComeFromFilesAndStayWithTheirCells) {
     EXPECT_EQ(grid.ClearBitmaps(), 0);
     EXPECT_EQ(grid.GetBitmap(0), nullptr);
     std::filesystem::remove_all(folder);
+}
+
+TEST(Resources, BitmapsComeFromTheModulesResources) {
+    static int moduleTag;
+    const HINSTANCE module = reinterpret_cast<HINSTANCE>(&moduleTag);
+    const std::string bmp = TwoByTwoBmp();
+    RegisterBitmapResource(module, 5, bmp.data(), bmp.size());
+    RegisterBitmapResource(module, "ARROW", bmp.data(), bmp.size());
+    const HINSTANCE before = AfxGetResourceHandle();
+    AfxSetResourceHandle(module);
+
+    GridCtrl grid;
+    // The high bits of the id are not the resource's.
+    EXPECT_EQ(grid.AddBitmapResource(0x10005), 0);
+    EXPECT_EQ(grid.AddBitmapResource(0, "arrow"), 1);
+    EXPECT_EQ(grid.AddBitmapResource(6), -1);
+    EXPECT_EQ(grid.AddBitmapResource(5, "missing"), -1);
+    AfxSetResourceHandle(before);
+    ExpectTwoByTwo(grid.GetBitmap(0));
+    ExpectTwoByTwo(grid.GetBitmap(1));
+    EXPECT_EQ(grid.GetBitmap(2), nullptr);
 }
