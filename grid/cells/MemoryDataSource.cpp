@@ -97,6 +97,12 @@ int MemoryDataSource::GetCell(int col, int row, GridCell& cell) {
     return 0;
 }
 
+void MemoryDataSource::GetText(int col, int row, std::string& text) {
+    const CellRow* r = RowAt(row);
+    const PackedCell* value = r ? r->Find(col, cellHint) : nullptr;
+    text.assign(value ? value->Text() : std::string_view());
+}
+
 int MemoryDataSource::SetCell(int col, int row, const GridCell& cell) {
     MakeRow(row).Place(col, cellHint).Pack(cell);
     return 0;

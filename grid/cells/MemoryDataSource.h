@@ -44,6 +44,9 @@ public:
     // Answers -1 after emptying the store.
     int DeleteAll() override;
     int GetCell(int col, int row, GridCell& cell) override;
+    // The stored text alone, as GetCell would give it, without building the cell: the grid's
+    // sweeps over its own store read this. Empty for a cell without text or no cell.
+    void GetText(int col, int row, std::string& text);
     // Always arrives; the stored value is replaced as a whole.
     int SetCell(int col, int row, const GridCell& cell) override;
     // Start before the first place, or with flag 0x4 after the last: col -1 and row 0 with flag

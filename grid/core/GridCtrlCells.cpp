@@ -61,11 +61,19 @@ int GridCtrl::SetCellRange(int leftCol, int topRow, int rightCol, int bottomRow,
 }
 
 int GridCtrl::GetCellText(int col, int row, std::string& text) {
+    text.clear();
+    // No column record stands behind such a col, so no cell either.
+    if (col >= sheet->colCount) return 0;
+    int sourceCol;
+    GridDataSource* source = SourceOf(col, &sourceCol);
+    // The sheet's own store hands out the text without building the whole cell.
+    if (source == &sheet->memoryDataSource) {
+        sheet->memoryDataSource.GetText(sourceCol, row, text);
+        return 0;
+    }
     GetCell(col, row, scratchCell);
     if (const char* stored = scratchCell.GetText())
         text.assign(stored, static_cast<size_t>(scratchCell.GetTextLength()));
-    else
-        text.clear();
     return 0;
 }
 

@@ -40,6 +40,14 @@ void ExpectSameStore(MemoryDataSource& store, const ReferenceStore& model) {
             fromModel.SetUserValue(99);
             ASSERT_EQ(store.GetCell(col, row, fromStore), model.GetCell(col, row, fromModel));
             ASSERT_EQ(DescribeCell(fromStore), DescribeCell(fromModel));
+            std::string text = "stale";
+            store.GetText(col, row, text);
+            const std::string modelText =
+                fromModel.HasProperty(PropText)
+                    ? std::string(fromModel.GetText(),
+                                  static_cast<size_t>(fromModel.GetTextLength()))
+                    : "";
+            ASSERT_EQ(text, modelText);
 
             int storeCol = col, modelCol = col;
             ASSERT_EQ(store.FindTextToLeft(&storeCol, row), model.FindTextToLeft(&modelCol, row));

@@ -92,6 +92,15 @@ TEST_F(CellAccess, ReadsAndWritesGoToTheSourceColumn) {
     EXPECT_EQ(grid.GetTranslatedCol(2), 0);
     EXPECT_STREQ(grid.GetCellText(2, 0), "a");
     EXPECT_STREQ(grid.GetCellText(1, 0), "c");
+    // The text alone comes the same way, also of a heading, and of no cell past the table.
+    std::string text;
+    grid.GetCellText(2, 0, text);
+    EXPECT_EQ(text, "a");
+    grid.SetCellText(-1, 0, "side");
+    grid.GetCellText(-1, 0, text);
+    EXPECT_EQ(text, "side");
+    grid.GetCellText(3, 0, text);
+    EXPECT_EQ(text, "");
     grid.recordReads = true;
     grid.GetEffectiveCell(2, 0, cell);
     grid.SetCellText(2, 1, "b");

@@ -237,6 +237,9 @@ TEST(RowsCols, DataSourcesRegisterBindAndShape) {
     EXPECT_STREQ(grid.GetCellText(0, 0), "mem");
     EXPECT_EQ(grid.SetColDataSourceByIndex(1, 2), 0);
     EXPECT_STREQ(grid.GetCellText(1, 3), "s1,3");
+    std::string text;
+    grid.GetCellText(1, 3, text);
+    EXPECT_EQ(text, "s1,3");
     EXPECT_EQ(grid.SetColDataSource(2, sources[0].get()), 1);
     EXPECT_EQ(grid.SetColDataSourceByIndex(0, 99), 1);
     EXPECT_EQ(grid.SelectDataSource(1), 0);
