@@ -220,6 +220,20 @@ public:
     // is off, 2 when QueryMenuStart refused, 3 when the menu could not be shown.
     int ShowContextMenu(int col, int row, POINT* point, int section);
 
+    // --- Editing session ---
+    // On the current cell, with no key, or with a key that the editor then receives as a
+    // typed character. 0 opened; 1 refused (by the cell type, the read-only property, the
+    // source or QueryEditStart); 2 the move to the cell was refused.
+    int StartEdit();
+    int StartEdit(UINT key);
+    int StartEdit(int col, int row, UINT key);
+    // Called by the editor as it closes: 1 the session ended or went on to the next cell,
+    // 0 it stays open (a veto). goOn asks for a session on (nextCol, nextRow) after this one.
+    int EditFinished(const std::string& text, int cancelled, int goOn, int nextCol, int nextRow);
+    // Ends a session without writing and without asking anyone.
+    int CancelEdit();
+    int GetCancelEditOnFocusLoss() const;
+
     // --- Cell access ---
     // What the source stores, with no layer: 1 for a col at or past colCount.
     int GetCell(int col, int row, GridCell& cell) override;
@@ -463,6 +477,8 @@ protected:
 private:
     // Adds a bitmap to the list, which then owns it; -1 when the list cannot grow.
     int KeepBitmap(std::unique_ptr<CBitmap> bitmap);
+    // Moves the next cell of an editing walk that lands in a join to where the walk goes on.
+    void StepOverJoin(int* nextCol, int* nextRow);
     // The registered type that a merged cell names, or the normal type.
     CellType* TypeOf(const GridCell& cell);
     // Reads the stored cell into scratchCell, lets `change` set one property, writes it back.

@@ -33,3 +33,16 @@ void HeadingWindow::OnPaint() {
     CBrush back(grid->GetBackColor(section));
     FillRect(dc, &client, static_cast<HBRUSH>(back.GetSafeHandle()));
 }
+
+void HeadingWindow::HeadingSpan(const std::vector<int>& sizes, int count, int first, int last,
+                                LONG* low, LONG* high) {
+    LONG at = 0;
+    for (int i = -count; i < 0; ++i) {
+        if (i == first) *low = at;
+        at += sizes[static_cast<size_t>(-i - 1)];
+        if (i == last) {
+            *high = at;
+            return;
+        }
+    }
+}

@@ -6,6 +6,8 @@
 #include "grid/windows/GridChild.h"
 #include "platform/afx/CWnd.h"
 
+#include <vector>
+
 class HeadingWindow : public CWnd, public GridChild {
 public:
     explicit HeadingWindow(int section) : section(section) {}
@@ -16,6 +18,10 @@ public:
     void UpdateView();
 
 protected:
+    // Where heading items first to last begin and end, walking from the outermost one (index
+    // -count) inward; item i measures sizes[-i - 1]. An end not met leaves its value alone.
+    static void HeadingSpan(const std::vector<int>& sizes, int count, int first, int last,
+                            LONG* low, LONG* high);
     void OnPaint();
     DECLARE_MESSAGE_MAP()
 

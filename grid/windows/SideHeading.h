@@ -8,4 +8,6 @@ class SideHeading : public HeadingWindow {
 public:
     SideHeading() : HeadingWindow(3) {}
     void Refresh() override;
+    // Pixel rectangle of a heading cell in this window, of the whole join if it has one.
+    void GetHeadingCellRect(int col, int row, RECT* rect);
 };

@@ -8,4 +8,6 @@ class TopHeading : public HeadingWindow {
 public:
     TopHeading() : HeadingWindow(2) {}
     void Refresh() override;
+    // Pixel rectangle of a heading cell in this window, of the whole join if it has one.
+    void GetHeadingCellRect(int col, int row, RECT* rect);
 };

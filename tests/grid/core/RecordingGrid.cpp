@@ -98,3 +98,21 @@ void RecordingCellType::NotifyEnter(int col, int row, GridCell*) {
 void RecordingCellType::NotifyLeave(int col, int row, GridCell*) {
     log.Record(Line("Leave", {col, row}));
 }
+
+int RecordingGrid::QueryEditStart(int col, int row, CWnd** editor) {
+    Record(Line("EditStart", {col, row}));
+    if (lentEditor) *editor = lentEditor;
+    return allowEditStart;
+}
+
+int RecordingGrid::QueryEditFinish(int col, int row, CWnd*, const std::string& text,
+                                   int cancelled) {
+    Record(Line("EditFinish", {col, row, cancelled}) + " " + text);
+    return allowEditFinish;
+}
+
+int RecordingGrid::QueryEditContinue(int col, int row, int* nextCol, int* nextRow) {
+    Record(Line("EditContinue", {col, row, *nextCol, *nextRow}));
+    if (onContinue) onContinue(nextCol, nextRow);
+    return allowEditContinue;
+}

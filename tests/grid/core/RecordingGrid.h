@@ -25,6 +25,10 @@ public:
     void NotifyCellWrite(int col, int row, GridCell* cell) override;
     void NotifyMenuCommand(int col, int row, int section, int id) override;
     int QueryMenuStart(int col, int row, int section) override;
+    int QueryEditStart(int col, int row, CWnd** editor) override;
+    int QueryEditFinish(int col, int row, CWnd* editor, const std::string& text,
+                        int cancelled) override;
+    int QueryEditContinue(int col, int row, int* nextCol, int* nextRow) override;
     void AdjustChildRects(RECT* view, RECT* topHeading, RECT* sideHeading, RECT* corner,
                           RECT* vScroll, RECT* hScroll, RECT* tabs) override;
     void NotifyFloatingDialogMoved(RECT* oldRect, RECT* newRect) override;
@@ -38,6 +42,13 @@ public:
     int allowMove = 1;
     int allowScroll = 1;
     int allowMenu = 1;
+    int allowEditStart = 1;
+    int allowEditFinish = 1;
+    int allowEditContinue = 1;
+    // Put in place of the editor by QueryEditStart when set.
+    CWnd* lentEditor = nullptr;
+    // Runs inside QueryEditContinue, to steer the walk.
+    void (*onContinue)(int* nextCol, int* nextRow) = nullptr;
     // Rows that NotifyPastLastRow adds, as a client that grows its table on demand would.
     int rowsToAdd = 0;
     // Runs inside NotifyCellRead, to change the cell as a layer of its own.
