@@ -22,7 +22,7 @@ GridCtrl::GridCtrl()
     SetSheetCount(1);
     GiveChildrenSheet();
     hintWindow->grid = this;
-    builtInEditor.owner = this;
+    builtInEditor.grid = this;
     AddCellType(&normalCellType);
     AddCellType(&dropListCellType);
     AddCellType(&checkBoxCellType);

@@ -177,7 +177,7 @@ const MessageMapEntry* CWnd::FindEntry(UINT msg, WPARAM wParam) const {
     for (const MessageMap* map = GetMessageMap(); map; map = map->base ? map->base() : nullptr) {
         for (const MessageMapEntry* e = map->entries; e->call; ++e) {
             if (e->message != msg) continue;
-            if (msg != WM_COMMAND) return e;
+            if (msg != WM_COMMAND && msg != WM_REFLECT_BASE + WM_COMMAND) return e;
             if ((e->code == 0xFFFF || e->code == code) && id >= e->idFirst && id <= e->idLast) return e;
         }
     }
@@ -185,6 +185,8 @@ const MessageMapEntry* CWnd::FindEntry(UINT msg, WPARAM wParam) const {
 }
 
 BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam) {
+    if (CWnd* control = lParam ? FromHandlePermanent(reinterpret_cast<HWND>(lParam)) : nullptr)
+        if (control->OnChildNotify(WM_COMMAND, wParam, lParam)) return TRUE;
     const MessageMapEntry* e = FindEntry(WM_COMMAND, wParam);
     if (!e) return FALSE;
     e->call(this, wParam, lParam);
@@ -241,4 +243,11 @@ const char* AfxRegisterWndClass(UINT classStyle, HCURSOR cursor, HBRUSH backgrou
     wc.lpszClassName = name.c_str();
     ::RegisterClass(&wc);
     return names.emplace(key, name).first->second.c_str();
+}
+
+BOOL CWnd::OnChildNotify(UINT msg, WPARAM wParam, LPARAM lParam) {
+    const MessageMapEntry* e = FindEntry(WM_REFLECT_BASE + msg, wParam);
+    if (!e) return FALSE;
+    e->call(this, wParam, lParam);
+    return TRUE;
 }

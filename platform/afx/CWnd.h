@@ -100,6 +100,8 @@ protected:
     virtual LRESULT WindowProc(UINT msg, WPARAM wParam, LPARAM lParam);
     // Commands and control notifications: TRUE when a table entry handled it.
     virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
+    // A notification this control sent its parent, handed back first; TRUE keeps it there.
+    virtual BOOL OnChildNotify(UINT msg, WPARAM wParam, LPARAM lParam);
     // Hands the message to the window's original procedure.
     virtual LRESULT DefWindowProc(UINT msg, WPARAM wParam, LPARAM lParam);
     // The message being handled now, to the original procedure.

@@ -111,3 +111,8 @@ protected:                                                  \
 #define ON_EN_CHANGE(id, fn) ON_CONTROL(EN_CHANGE, id, fn)
 #define ON_LBN_SELCHANGE(id, fn) ON_CONTROL(LBN_SELCHANGE, id, fn)
 #define ON_LBN_DBLCLK(id, fn) ON_CONTROL(LBN_DBLCLK, id, fn)
+// void OnX() in the control itself for a notification it sends its parent: the parent's
+// framework hands the notification back to the control first, and a control that handles it
+// keeps it from the parent.
+inline constexpr UINT WM_REFLECT_BASE = 0xBC00;
+#define ON_CONTROL_REFLECT(code, fn) {WM_REFLECT_BASE + WM_COMMAND, static_cast<UINT>(code), 0, 0xFFFF, [](CWnd* self, WPARAM, LPARAM) -> LRESULT { AFX_SELF->fn(); return 0; }},

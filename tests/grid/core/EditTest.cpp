@@ -4,6 +4,7 @@
 #include "grid/cells/CheckBoxCellType.h"
 #include "grid/windows/GridView.h"
 #include "grid/windows/TopHeading.h"
+#include "platform/user/Input.h"
 #include "tests/grid/core/GridHost.h"
 
 #include <algorithm>
@@ -29,6 +30,15 @@ protected:
         return asked;
     }
     CWnd* Editor() { return grid.GetCellEditor(); }
+    // Keys and characters as the user types them, into whatever has the focus.
+    static void Type(const std::string& text) {
+        for (char c : text) plat::PushChar(c);
+        GridHost::Pump();
+    }
+    static void Key(int vk, bool shift = false) {
+        plat::PushKey(vk, shift);
+        GridHost::Pump();
+    }
     // The editor's rectangle in its parent's client coordinates.
     bool EditorCovers(CWnd* parent, const RECT& cell) {
         RECT r;
@@ -44,7 +54,7 @@ protected:
 
 } // namespace
 
-TEST_F(Edit, OpensOverTheCellWithItsTextAndTheKeyTyped) {
+TEST_F(Edit, OpensOverTheCellAndWalksOnWithEnter) {
     ASSERT_EQ(grid.StartEdit(2, 1, 'x'), 0);
     EXPECT_EQ(grid.GetCurrentCol(), 2);
     EXPECT_EQ(grid.GetCurrentRow(), 1);
@@ -54,17 +64,21 @@ TEST_F(Edit, OpensOverTheCellWithItsTextAndTheKeyTyped) {
     EXPECT_TRUE(EditorCovers(grid.view.get(), cell));
     EXPECT_TRUE(Editor()->IsWindowVisible());
     EXPECT_EQ(CWnd::GetFocus(), Editor());
-    // The key arrives after the cell's text was put in.
-    const std::string text = Editor()->GetWindowText();
-    EXPECT_NE(text.find('x'), std::string::npos);
-    EXPECT_NE(text.find("r1c2"), std::string::npos);
-    EXPECT_EQ(Questions(), (Strings{"EditStart 2 1"}));
+    // The cell's text came first and was selected, so the key replaced it.
+    EXPECT_EQ(Editor()->GetWindowText(), "x");
 
-    // Finished: written as typed, and the editor goes.
-    EXPECT_EQ(grid.EditFinished("new", 0, 0, 0, 0), 1);
-    EXPECT_STREQ(grid.GetCellText(2, 1), "new");
+    Type("y");
+    Key(VK_RETURN);
+    EXPECT_STREQ(grid.GetCellText(2, 1), "xy");
+    EXPECT_EQ(grid.GetCurrentRow(), 2);
+    EXPECT_EQ(Editor()->GetWindowText(), "r2c2");
+    Type("z");
+    Key(VK_ESCAPE);
+    EXPECT_STREQ(grid.GetCellText(2, 2), "r2c2");
     EXPECT_FALSE(Editor()->IsWindowVisible());
-    EXPECT_EQ(Questions(), (Strings{"EditFinish 2 1 0 new"}));
+    EXPECT_EQ(CWnd::GetFocus(), grid.view.get());
+    EXPECT_EQ(Questions(), (Strings{"EditStart 2 1", "EditFinish 2 1 0 xy", "EditContinue 2 1 2 2",
+                                    "EditStart 2 2", "EditFinish 2 2 1 z"}));
 }
 
 TEST_F(Edit, RefusalsLeaveNoEditorButTheMoveStands) {
@@ -93,29 +107,31 @@ TEST_F(Edit, RefusalsLeaveNoEditorButTheMoveStands) {
     EXPECT_EQ(Questions(), (Strings{"EditStart 0 2"}));
 }
 
-TEST_F(Edit, VetoesAtTheEndKeepTheSessionAndCancelWritesNothing) {
+TEST_F(Edit, AVetoKeepsTheSessionAndCancellingWritesNothing) {
     ASSERT_EQ(grid.StartEdit(1, 2, 0), 0);
-    grid.Take();
     grid.allowEditFinish = 0;
-    EXPECT_EQ(grid.EditFinished("kept?", 0, 0, 0, 0), 0);
-    EXPECT_TRUE(Editor()->IsWindowVisible());
+    Type("k");
+    Key(VK_RETURN);
+    EXPECT_EQ(CWnd::GetFocus(), Editor());
+    EXPECT_EQ(Editor()->GetWindowText(), "k");
     EXPECT_STREQ(grid.GetCellText(1, 2), "r2c1");
     grid.allowEditFinish = 1;
-    EXPECT_EQ(grid.EditFinished("dropped", 1, 0, 0, 0), 1);
+    Key(VK_ESCAPE);
     EXPECT_STREQ(grid.GetCellText(1, 2), "r2c1");
-    EXPECT_EQ(Questions(), (Strings{"EditFinish 1 2 0 kept?", "EditFinish 1 2 1 dropped"}));
+    EXPECT_EQ(Questions(), (Strings{"EditStart 1 2", "EditFinish 1 2 0 k", "EditFinish 1 2 1 k"}));
 
-    // A lent editor takes the place of the control's own.
-    CEdit lent;
-    lent.Create(WS_CHILD, RECT{0, 0, 10, 10}, &host.window, 77);
-    grid.lentEditor = &lent;
+    // With the flag set, focus that leaves the grid cancels; within the grid it writes.
+    grid.SetCancelEditOnFocusLoss(1);
+    CEdit outside;
+    outside.Create(WS_CHILD | WS_VISIBLE, RECT{0, 0, 10, 10}, &host.window, 77);
     ASSERT_EQ(grid.StartEdit(0, 0, 0), 0);
-    EXPECT_TRUE(lent.IsWindowVisible());
-    EXPECT_EQ(lent.GetParent(), grid.view.get());
-    EXPECT_EQ(lent.GetWindowText(), "r0c0");
-    EXPECT_EQ(grid.EditFinished("lent", 0, 0, 0, 0), 1);
-    EXPECT_FALSE(lent.IsWindowVisible());
-    grid.lentEditor = nullptr;
+    Type("gone");
+    outside.SetFocus();
+    EXPECT_STREQ(grid.GetCellText(0, 0), "r0c0");
+    ASSERT_EQ(grid.StartEdit(0, 0, 0), 0);
+    Type("kept");
+    grid.view->SetFocus();
+    EXPECT_STREQ(grid.GetCellText(0, 0), "kept");
 
     ASSERT_EQ(grid.StartEdit(0, 1, 0), 0);
     EXPECT_EQ(grid.CancelEdit(), 0);
@@ -124,36 +140,84 @@ TEST_F(Edit, VetoesAtTheEndKeepTheSessionAndCancelWritesNothing) {
     EXPECT_STREQ(grid.GetCellText(0, 1), "r1c0");
 }
 
-TEST_F(Edit, TheWalkComesRoundTheEdgeAndStepsOverJoins) {
-    ASSERT_EQ(grid.StartEdit(3, 2, 0), 0);
-    EXPECT_EQ(grid.EditFinished("a", 0, 1, 4, 2), 1);
+TEST_F(Edit, ALentEditorTakesThePlaceOfTheControlsOwn) {
+    CEdit lent;
+    lent.Create(WS_CHILD, RECT{0, 0, 10, 10}, &host.window, 77);
+    grid.lentEditor = &lent;
+    ASSERT_EQ(grid.StartEdit(0, 0, 0), 0);
+    EXPECT_TRUE(lent.IsWindowVisible());
+    EXPECT_EQ(lent.GetParent(), grid.view.get());
+    EXPECT_EQ(lent.GetWindowText(), "r0c0");
+    // As such an editor reports its end itself.
+    EXPECT_EQ(grid.EditFinished("lent", 0, 0, 0, 0), 1);
+    EXPECT_FALSE(lent.IsWindowVisible());
+    EXPECT_STREQ(grid.GetCellText(0, 0), "lent");
+}
+
+TEST_F(Edit, TheWalkComesRoundTheEdgesAndStepsOverJoins) {
+    ASSERT_EQ(grid.StartEdit(3, 3, 0), 0);
+    Type("a");
+    Key(VK_TAB);
     EXPECT_EQ(grid.GetCurrentCol(), 0);
-    EXPECT_EQ(grid.GetCurrentRow(), 2);
-    EXPECT_TRUE(Editor()->IsWindowVisible());
+    EXPECT_EQ(grid.GetCurrentRow(), 3);
     grid.onContinue = [](int* nextCol, int*) { *nextCol = 2; };
-    EXPECT_EQ(grid.EditFinished("b", 0, 1, 0, 4), 1);
+    Type("b");
+    Key(VK_RETURN);
+    grid.onContinue = nullptr;
     EXPECT_EQ(grid.GetCurrentCol(), 2);
     EXPECT_EQ(grid.GetCurrentRow(), 0);
-    grid.onContinue = nullptr;
-    EXPECT_EQ(Questions(), (Strings{"EditStart 3 2", "EditFinish 3 2 0 a", "EditContinue 3 2 0 2",
-                                    "EditStart 0 2", "EditFinish 0 2 0 b", "EditContinue 0 2 0 0",
+    EXPECT_EQ(Questions(), (Strings{"EditStart 3 3", "EditFinish 3 3 0 a", "EditContinue 3 3 0 3",
+                                    "EditStart 0 3", "EditFinish 0 3 0 b", "EditContinue 0 3 0 0",
                                     "EditStart 2 0"}));
-    EXPECT_STREQ(grid.GetCellText(3, 2), "a");
-    EXPECT_STREQ(grid.GetCellText(0, 2), "b");
+    EXPECT_STREQ(grid.GetCellText(3, 3), "a");
+    EXPECT_STREQ(grid.GetCellText(0, 3), "b");
+    Key(VK_ESCAPE);
 
-    // From a join's first column a step into it lands behind it; a step from elsewhere into a
-    // join lands on its first cell.
+    // From a join's first column a step into it lands behind it; a step from elsewhere into
+    // the join lands on its first cell.
     grid.EnableJoins(1);
     grid.JoinCells(1, 1, 2, 1);
     ASSERT_EQ(grid.StartEdit(1, 1, 0), 0);
-    EXPECT_EQ(grid.EditFinished("j", 0, 1, 2, 1), 1);
+    Key(VK_TAB);
     EXPECT_EQ(grid.GetCurrentCol(), 3);
-    EXPECT_EQ(grid.EditFinished("k", 0, 1, 2, 1), 1);
+    Key(VK_TAB, true);
     EXPECT_EQ(grid.GetCurrentCol(), 1);
-
     grid.allowEditContinue = 0;
-    EXPECT_EQ(grid.EditFinished("l", 0, 1, 2, 1), 1);
+    Key(VK_TAB);
     EXPECT_FALSE(Editor()->IsWindowVisible());
+}
+
+TEST_F(Edit, UpAndDownLeaveUntilTheEditorHasGrown) {
+    ASSERT_EQ(grid.StartEdit(0, 1, 0), 0);
+    Key(VK_DOWN);
+    EXPECT_EQ(grid.GetCurrentRow(), 2);
+    RECT before;
+    Editor()->GetWindowRect(&before);
+    Type(std::string(12, 'w'));
+    RECT after;
+    Editor()->GetWindowRect(&after);
+    grid.view->ScreenToClient(&before);
+    grid.view->ScreenToClient(&after);
+    // Wider by whole cells, each of the default 75 pixels, one short of the column's edge.
+    EXPECT_GT(after.right, before.right);
+    EXPECT_EQ((after.right + 1) % 75, 0);
+    EXPECT_EQ(after.bottom, before.bottom);
+    Key(VK_UP);
+    EXPECT_EQ(grid.GetCurrentRow(), 2);
+    EXPECT_TRUE(Editor()->IsWindowVisible());
+    Key(VK_RETURN);
+    EXPECT_EQ(grid.GetCurrentRow(), 3);
+    Key(VK_ESCAPE);
+
+    static_cast<GridEdit*>(Editor())->SetGrowWithText(0);
+    ASSERT_EQ(grid.StartEdit(0, 1, 0), 0);
+    Editor()->GetWindowRect(&before);
+    Type(std::string(40, 'w'));
+    Editor()->GetWindowRect(&after);
+    EXPECT_TRUE(EqualRect(&before, &after));
+    Key(VK_UP);
+    EXPECT_EQ(grid.GetCurrentRow(), 0);
+    Key(VK_ESCAPE);
 }
 
 TEST_F(Edit, AHeadingCellIsEditedInItsHeadingAndNeverWalksOn) {
@@ -165,7 +229,8 @@ TEST_F(Edit, AHeadingCellIsEditedInItsHeadingAndNeverWalksOn) {
     EXPECT_EQ(cell.left, grid.GetColWidth(0));
     EXPECT_EQ(cell.bottom, grid.GetTopHeadingHeight());
     EXPECT_TRUE(EditorCovers(heading, cell));
-    EXPECT_EQ(grid.EditFinished("Title", 0, 1, 2, -1), 1);
+    Type("Title");
+    Key(VK_TAB);
     EXPECT_STREQ(grid.GetCellText(1, -1), "Title");
     EXPECT_FALSE(Editor()->IsWindowVisible());
     EXPECT_EQ(Questions(), (Strings{"EditStart 1 -1", "EditFinish 1 -1 0 Title"}));

@@ -25,7 +25,7 @@ TEST(Frame, NewControlHasOneEmptySheetAndTheBuiltInTypes) {
     EXPECT_EQ(grid.GetCellTypeId(&grid.checkBoxCellType), 2);
     EXPECT_EQ(grid.GetCellTypeId(&grid.markerCellType), 3);
     EXPECT_EQ(grid.GetCellEditor(), &grid.builtInEditor);
-    EXPECT_EQ(grid.builtInEditor.owner, &grid);
+    EXPECT_EQ(grid.builtInEditor.grid, &grid);
     GridCell heading;
     grid.GetHeadingDefault(heading);
     EXPECT_EQ(heading.GetBackColor(), GetSysColor(COLOR_BTNFACE));

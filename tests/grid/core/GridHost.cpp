@@ -22,7 +22,10 @@ void GridHost::Resize(int width, int height) {
 
 void GridHost::Pump() {
     MSG msg;
-    while (PeekMessage(&msg, nullptr, 0, 0, PM_REMOVE)) DispatchMessage(&msg);
+    while (PeekMessage(&msg, nullptr, 0, 0, PM_REMOVE)) {
+        TranslateMessage(&msg);
+        DispatchMessage(&msg);
+    }
 }
 
 void Fill(GridCtrl& grid, int cols, int rows) {
