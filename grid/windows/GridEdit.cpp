@@ -4,14 +4,12 @@
 #include "grid/core/GridCtrl.h"
 #include "platform/afx/CClientDC.h"
 
-BEGIN_MESSAGE_MAP(GridEdit, CEdit)
+BEGIN_MESSAGE_MAP(GridEdit, CellEditor)
 ON_WM_SETFOCUS()
 ON_WM_KILLFOCUS()
 ON_WM_KEYDOWN()
 ON_WM_CHAR()
-ON_WM_MOUSEACTIVATE()
 ON_WM_SETCURSOR()
-ON_WM_GETDLGCODE()
 ON_CONTROL_REFLECT(EN_UPDATE, OnUpdate)
 END_MESSAGE_MAP()
 
@@ -27,29 +25,16 @@ void GridEdit::OnSetFocus(CWnd* old) {
     baseHeight = currentHeight = client.bottom + 4;
     GrowWithText();
     cancelled = continueEdit = 0;
-    // A first typed character replaces the text.
-    SendMessage(EM_SETSEL, 0, -1);
-    SendMessage(EM_SCROLLCARET);
+    SelectAll();
     lastKey = 0;
     CEdit::OnSetFocus(old);
 }
 
 void GridEdit::OnKillFocus(CWnd* next) {
     CEdit::OnKillFocus(next);
-    if (grid->GetCancelEditOnFocusLoss()) {
-        // Focus that stays with the grid or its children keeps the text.
-        if (!next || !next->m_hWnd)
-            cancelled = 1;
-        else if (next != grid && next->GetParent() != grid)
-            cancelled = 1;
-    }
-    if (grid->EditFinished(GetWindowText(), cancelled, continueEdit, nextCol, nextRow) == 0) {
-        // Vetoed: the session stays, with the text as the user left it.
-        grid->GotoCell(grid->editCol, grid->editRow);
-        SetCapture();
-        ReleaseCapture();
-        SetFocus();
-    }
+    // Focus that stays with the grid or its children keeps the text.
+    if (grid->GetCancelEditOnFocusLoss() && LeavesGrid(next)) cancelled = 1;
+    Finish();
 }
 
 void GridEdit::OnKeyDown(UINT key, UINT repeat, UINT flags) {
@@ -70,13 +55,6 @@ void GridEdit::OnKeyDown(UINT key, UINT repeat, UINT flags) {
     CEdit::OnKeyDown(key, repeat, flags);
 }
 
-void GridEdit::Leave(int goOn, int col, int row) {
-    continueEdit = goOn;
-    nextCol = col;
-    nextRow = row;
-    grid->SetFocus();
-}
-
 void GridEdit::OnChar(UINT character, UINT repeat, UINT flags) {
     const int col = grid->GetCurrentCol(), row = grid->GetCurrentRow();
     UINT key = character;
@@ -87,19 +65,9 @@ void GridEdit::OnChar(UINT character, UINT repeat, UINT flags) {
     CEdit::OnChar(character, repeat, flags);
 }
 
-int GridEdit::OnMouseActivate(CWnd*, UINT, UINT) {
-    return MA_ACTIVATE;
-}
-
 BOOL GridEdit::OnSetCursor(CWnd*, UINT, UINT) {
     ::SetCursor(LoadCursor(nullptr, IDC_IBEAM));
     return TRUE;
-}
-
-UINT GridEdit::OnGetDlgCode() {
-    if (GetKeyState(VK_TAB) < 0) return DLGC_WANTTAB;
-    if (GetKeyState(VK_RETURN) < 0 || GetKeyState(VK_ESCAPE) < 0) return DLGC_WANTALLKEYS;
-    return CEdit::OnGetDlgCode();
 }
 
 void GridEdit::OnUpdate() {
