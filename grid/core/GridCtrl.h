@@ -234,6 +234,21 @@ public:
     int CancelEdit();
     int GetCancelEditOnFocusLoss() const;
 
+    // --- Clipboard: cell texts only, tab between fields, line feed between rows ---
+    int CopySelection();
+    int CutSelection();
+    // A cut writes an empty cell, all properties gone, over each cell it took.
+    int CopyOrCutSelection(int cut);
+    // The selected cells in rows, only those selected, in their bounding box.
+    void BuildSelectionText(std::string& text, int cut);
+    int WriteClipboardText(const std::string& text);
+    // 1 when the clipboard holds no text.
+    int ReadClipboardText(std::string& text);
+    int PasteClipboard();
+    // From the current cell on, over cells of the table only; takes CR, LF and CR LF as line
+    // ends, keeps the cells' other properties and selects the block written.
+    int PasteText(const std::string& text);
+
     // --- Cell access ---
     // What the source stores, with no layer: 1 for a col at or past colCount.
     int GetCell(int col, int row, GridCell& cell) override;

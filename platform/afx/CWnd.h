@@ -77,6 +77,7 @@ public:
         return ::RedrawWindow(m_hWnd, r, rgn, flags);
     }
     CWnd* SetFocus() { return FromHandle(::SetFocus(m_hWnd)); }
+    BOOL OpenClipboard() { return ::OpenClipboard(m_hWnd); }
     CWnd* SetActiveWindow() { return FromHandle(::SetActiveWindow(m_hWnd)); }
     CWnd* SetParent(CWnd* parent) { return FromHandle(::SetParent(m_hWnd, parent ? parent->m_hWnd : nullptr)); }
     static CWnd* GetFocus() { return FromHandle(::GetFocus()); }
