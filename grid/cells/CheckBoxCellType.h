@@ -4,8 +4,7 @@
 // space bar on the current cell, toggles it and reports event 53 with the new state, 0 or 1.
 // Cells of this type open no editor and keep their text to themselves.
 //
-// Known debt: the drawing of the box and its mark comes with the drawing operations of
-// CellType.
+// Known debt: the box and its mark aren't drawn yet; the type draws as the base class does.
 
 #include "grid/cells/CellType.h"
 #include "grid/cells/GridCell.h"

@@ -121,6 +121,16 @@ public:
     int EnableVScrollHints(int flag);
     int EnableHScrollHints(int flag);
     int SetDoubleBufferMode(int mode);
+    DrawSettings GetDrawSettings() override {
+        return {sheet->cellMargin,
+                sheet->borderWidth,
+                sheet->textOverflowEnabled,
+                sheet->gridLinesEnabled,
+                sheet->highlightMode,
+                &sheet->gridLinePen,
+                &highlightPen,
+                &shadowPen};
+    }
 
     // --- Sheets ---
     int SetSheetCount(int count);
@@ -308,6 +318,10 @@ public:
     int SetTopHeadingRows(int count);
     int SetSideHeadingCols(int count);
     int SetTopHeadingRowHeight(int row, int height);
+    int GetHeadingRowHeight(int row) const override {
+        if (row > -1 || row < -sheet->topHeadingRows) return 0;
+        return sheet->topHeadingRowHeights[static_cast<size_t>(-row - 1)];
+    }
     int SetSideHeadingColWidth(int col, int width);
     // Points are in the view's client coordinates: 0 on a cell, 1 elsewhere.
     int HitTest(int x, int y, int* col, int* row);
@@ -366,10 +380,10 @@ public:
     int SetColCount(int count, int redraw);
     int GetColCount() override { return sheet->colCount; }
     int SetColWidth(int col, int width);
-    int GetColWidth(int col) const { return sheet->ColWidth(col); }
+    int GetColWidth(int col) const override { return sheet->ColWidth(col); }
     int GetColWidth(int col, int* width) const;
     int SetRowHeight(int row, int height);
-    int GetRowHeight(int row) const { return sheet->RowHeight(row); }
+    int GetRowHeight(int row) const override { return sheet->RowHeight(row); }
     int GetRowHeight(int row, int* height) const;
     int SetUniformRowHeight(int flag);
     int AppendRow();
@@ -400,18 +414,21 @@ public:
     int GetJoinedMain(int* col, int* row) { return GetJoinedMainCell(col, row, scratchCell); }
     // 0 with col and row moved to the join's first cell; 1 joins are off; 2 in no join.
     int GetJoinedMainCell(int* col, int* row, GridCell& cell);
-    int GetJoinedRange(int* col, int* row, int* endCol, int* endRow);
+    int GetJoinedRange(int* col, int* row, int* endCol, int* endRow) override;
 
     // --- Search in the sheet's data source ---
     int SetFindInAllCols(int flag);
     // 0 found, with col and row set to the source's column and the row.
     int FindInDataSource(const std::string& text, int* col, int* row, int flags);
     int FindNextInDataSource(const std::string& text, int* col, int* row, int flags);
+    int FindTextToLeft(int* col, int row) override {
+        return sheet->dataSource->FindTextToLeft(col, row);
+    }
 
     // --- Registries of cell types, fonts and bitmaps ---
     int AddCellType(CellType* type);
     int RemoveCellType(int id);
-    CellType* GetCellType(int id);
+    CellType* GetCellType(int id) override;
     int GetCellTypeId(CellType* type);
     int AddFont(int height, int width, int escapement, int orientation, int weight, BYTE italic,
                 BYTE underline, BYTE strikeOut, BYTE charSet, BYTE outPrecision, BYTE clipPrecision,

@@ -43,6 +43,14 @@ public:
     int GetCurrentCol() const override { return currentCol; }
     int GetCurrentRow() const override { return currentRow; }
     CFont* GetDefaultFont() const override { return nullptr; }
+    // Nothing here draws: the drawing reads a real control (tests/grid/core).
+    DrawSettings GetDrawSettings() override { return {}; }
+    int GetColWidth(int) const override { return 75; }
+    int GetRowHeight(int) const override { return 20; }
+    int GetHeadingRowHeight(int) const override { return 20; }
+    int GetJoinedRange(int*, int*, int*, int*) override { return 2; }
+    CellType* GetCellType(int) override { return &normal; }
+    int FindTextToLeft(int*, int) override { return 1; }
     int NotifyCellTypeEvent(int typeId, int col, int row, int event, LPARAM parameter) override {
         events.push_back({typeId, col, row, event, static_cast<int>(parameter)});
         return 1;
@@ -60,6 +68,7 @@ public:
     std::vector<std::pair<int, int>> redrawn;
     std::vector<std::vector<int>> events;
     int currentCol = 0, currentRow = 0;
+    NormalCellType normal;
 };
 
 TEST(CellType, OnlyPlainAndDropListCellsOpenAnEditor) {
