@@ -59,6 +59,7 @@ ON_WM_SYSCOLORCHANGE()
 ON_WM_HSCROLL()
 ON_WM_VSCROLL()
 ON_WM_GETDLGCODE()
+ON_REGISTERED_MESSAGE(FindReplaceMessage(), OnFindReplaceMessage)
 END_MESSAGE_MAP()
 
 void GridCtrl::GiveChildrenSheet() {

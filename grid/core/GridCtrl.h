@@ -45,6 +45,7 @@
 #include <vector>
 
 class CBitmap;
+class CFindReplaceDialog;
 class CDC;
 class CFont;
 class CornerButton;
@@ -258,6 +259,13 @@ public:
     // From the current cell on, over cells of the table only; takes CR, LF and CR LF as line
     // ends, keeps the cells' other properties and selects the block written.
     int PasteText(const std::string& text);
+
+    // --- Find and replace dialog: one per control, modeless ---
+    // 0 opened; 1 one is open already.
+    int OpenFindDialog();
+    int OpenReplaceDialog();
+    // A request of the dialog: 1 when it is closing, else 0.
+    LRESULT OnFindReplaceMessage(WPARAM wParam, LPARAM lParam);
 
     // --- Cell access ---
     // What the source stores, with no layer: 1 for a col at or past colCount.
@@ -488,6 +496,8 @@ public:
     CWnd* editParent = nullptr;
     CPen highlightPen;
     CPen shadowPen;
+    // Deletes itself when its window goes.
+    CFindReplaceDialog* findDialog = nullptr;
     int findDialogOpen = 0;
     int findAllColumns = 0;
     // Fonts and bitmaps that left their list: a cell may still hold one, so they live as long
@@ -511,6 +521,9 @@ private:
     int KeepBitmap(std::unique_ptr<CBitmap> bitmap);
     // Moves the next cell of an editing walk that lands in a join to where the walk goes on.
     void StepOverJoin(int* nextCol, int* nextRow);
+    int OpenFindReplaceDialog(BOOL findOnly);
+    // The message of the find dialog's requests, registered once.
+    static UINT FindReplaceMessage();
     // The registered type that a merged cell names, or the normal type.
     CellType* TypeOf(const GridCell& cell);
     // Reads the stored cell into scratchCell, lets `change` set one property, writes it back.
