@@ -141,6 +141,15 @@ public:
     int GetSheetIndex() const { return sheetIndex; }
     // Stored without a layout.
     int SetTabStripWidth(int width);
+    // The tab strip's operations (SheetTabs says what they answer); SelectTab also fires
+    // NotifyTabSelected and answers 0, or 1 for an unknown id.
+    int AddTab(const std::string& text, int id);
+    int InsertTab(int position, const std::string& text, int id);
+    int DeleteTab(int id);
+    int SelectTab(int id);
+    int GetCurrentTab() const;
+    int SetTabBackColor(int id, COLORREF color);
+    int SetTabTextColor(int id, COLORREF color);
 
     // --- Notifications, in slot order ---
     virtual void NotifyFocusGained(int section);

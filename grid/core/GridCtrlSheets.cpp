@@ -59,3 +59,33 @@ int GridCtrl::SetTabStripWidth(int width) {
     sheet->tabStripWidth = width;
     return 0;
 }
+
+int GridCtrl::AddTab(const std::string& text, int id) {
+    return tabs->AddTab(text, id);
+}
+
+int GridCtrl::InsertTab(int position, const std::string& text, int id) {
+    return tabs->InsertTab(position, text, id);
+}
+
+int GridCtrl::DeleteTab(int id) {
+    return tabs->DeleteTab(id);
+}
+
+int GridCtrl::SelectTab(int id) {
+    if (!tabs->SelectTab(id)) return 1;
+    NotifyTabSelected(id);
+    return 0;
+}
+
+int GridCtrl::GetCurrentTab() const {
+    return tabs->GetCurrentTab();
+}
+
+int GridCtrl::SetTabBackColor(int id, COLORREF color) {
+    return tabs->SetTabBackColor(id, color);
+}
+
+int GridCtrl::SetTabTextColor(int id, COLORREF color) {
+    return tabs->SetTabTextColor(id, color);
+}

@@ -116,3 +116,7 @@ int RecordingGrid::QueryEditContinue(int col, int row, int* nextCol, int* nextRo
     if (onContinue) onContinue(nextCol, nextRow);
     return allowEditContinue;
 }
+
+void RecordingGrid::NotifyTabSelected(int id) {
+    Record(Line("TabSelected", {id}));
+}

@@ -25,6 +25,7 @@ public:
     void NotifyCellWrite(int col, int row, GridCell* cell) override;
     void NotifyMenuCommand(int col, int row, int section, int id) override;
     int QueryMenuStart(int col, int row, int section) override;
+    void NotifyTabSelected(int id) override;
     int QueryEditStart(int col, int row, CWnd** editor) override;
     int QueryEditFinish(int col, int row, CWnd* editor, const std::string& text,
                         int cancelled) override;
