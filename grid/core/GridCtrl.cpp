@@ -2,6 +2,7 @@
 
 #include "grid/windows/CornerButton.h"
 #include "grid/windows/GridHScroll.h"
+#include "grid/windows/GridPrinter.h"
 #include "grid/windows/GridVScroll.h"
 #include "grid/windows/GridView.h"
 #include "grid/windows/HintWindow.h"
@@ -15,7 +16,8 @@ GridCtrl::GridCtrl()
     : view(std::make_unique<GridView>()), topHeading(std::make_unique<TopHeading>()),
       sideHeading(std::make_unique<SideHeading>()), cornerButton(std::make_unique<CornerButton>()),
       vScroll(std::make_unique<GridVScroll>()), hScroll(std::make_unique<GridHScroll>()),
-      hintWindow(std::make_unique<HintWindow>()), tabs(std::make_unique<SheetTabs>()) {
+      hintWindow(std::make_unique<HintWindow>()), tabs(std::make_unique<SheetTabs>()),
+      printer(std::make_unique<GridPrinter>()) {
     RebuildPens();
     popupMenu.CreatePopupMenu();
     // Only the base class hears NotifySheetCreated(0) here; both creation paths fire it again.
@@ -65,7 +67,7 @@ END_MESSAGE_MAP()
 void GridCtrl::GiveChildrenSheet() {
     for (GridChild* child : std::initializer_list<GridChild*>{
              view.get(), topHeading.get(), sideHeading.get(), cornerButton.get(), vScroll.get(),
-             hScroll.get(), tabs.get()}) {
+             hScroll.get(), tabs.get(), printer.get()}) {
         child->grid = this;
         child->sheet = sheet;
     }

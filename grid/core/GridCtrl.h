@@ -56,6 +56,7 @@ class GridVScroll;
 class HintWindow;
 class MultiSelect;
 class SheetTabs;
+class GridPrinter;
 class SideHeading;
 class TopHeading;
 
@@ -276,6 +277,14 @@ public:
     // A request of the dialog: 1 when it is closing, else 0.
     LRESULT OnFindReplaceMessage(WPARAM wParam, LPARAM lParam);
 
+    // --- Printing: the client opens the printer and runs the job ---
+    // Lays the range out on pages and answers their number.
+    int PrintInit(CDC* printerDC, CDC* secondDC, int startCol, int startRow, int endCol,
+                  int endRow);
+    int PrintPage(CDC* printerDC, int pageNumber);
+    int SetPrintOption(int option, int value);
+    int GetPrintOption(int option, int* value);
+
     // --- Cell access ---
     // What the source stores, with no layer: 1 for a col at or past colCount.
     int GetCell(int col, int row, GridCell& cell) override;
@@ -493,6 +502,7 @@ public:
     std::unique_ptr<GridHScroll> hScroll;
     std::unique_ptr<HintWindow> hintWindow;
     std::unique_ptr<SheetTabs> tabs;
+    std::unique_ptr<GridPrinter> printer;
     int tabResizing = 0;
     // Not owned.
     CWnd* floatingDialog = nullptr;
