@@ -145,7 +145,9 @@ private:
     LRESULT Dispatch(UINT msg, WPARAM wParam, LPARAM lParam);
     const MessageMapEntry* FindEntry(UINT msg, WPARAM wParam) const;
     WNDPROC superProc = nullptr;
-    MSG current{};
+    // The message being handled, for Default. Kept per thread, not per object: a handler may
+    // destroy its own object, and the dispatch that called it must not touch the object after.
+    static thread_local inline MSG current{};
 };
 
 // The window procedure of every window bound to a CWnd.
