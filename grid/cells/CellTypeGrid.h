@@ -10,6 +10,7 @@
 class CellType;
 class CFont;
 class CPen;
+class CWnd;
 class GridCell;
 
 class CellTypeGrid {
@@ -44,6 +45,11 @@ public:
     virtual int GetHeadingRowHeight(int row) const = 0;
     // 0 with the block's first and last cells when (col, row) lies in a join, else nonzero.
     virtual int GetJoinedRange(int* col, int* row, int* endCol, int* endRow) = 0;
+    // The cell's rectangle in the view's client coordinates; a joined cell's is its block's.
+    virtual int GetJoinedCellRect(int col, int row, RECT* rect) = 0;
+    // The window that shows the cells: the parent of a type's own windows, and where the focus
+    // goes back to from them.
+    virtual CWnd* GetCellView() = 0;
     // The registered type of that id; the normal type for an id that names none.
     virtual CellType* GetCellType(int id) = 0;
     // The sheet's data source's nearest cell with text left of col in the row; 0 with col

@@ -174,6 +174,10 @@ CWnd* GridCtrl::GetCellEditor() {
     return sheet->cellEditor;
 }
 
+CWnd* GridCtrl::GetCellView() {
+    return view.get();
+}
+
 int GridCtrl::SetCellEditor(CWnd* editor) {
     sheet->cellEditor = editor;
     return 0;

@@ -81,6 +81,7 @@ public:
     // Marks cells of the view for its next update without painting them now.
     void AddViewRange(int leftCol, int topRow, int rightCol, int bottomRow) override;
     CWnd* GetCellEditor();
+    CWnd* GetCellView() override;
     int SetCellEditor(CWnd* editor);
     // Each deletes the present object, takes ownership of the one given and gives it the
     // control and the active sheet; null changes nothing. A client replaces window objects
@@ -352,7 +353,7 @@ public:
     // Points are in the view's client coordinates: 0 on a cell, 1 elsewhere.
     int HitTest(int x, int y, int* col, int* row);
     int HitTestRect(int x, int y, int* col, int* row, RECT* rect);
-    int GetJoinedCellRect(int col, int row, RECT* rect);
+    int GetJoinedCellRect(int col, int row, RECT* rect) override;
     int GetJoinedCellRectByRef(int* col, int* row, RECT* rect);
     int GetRangeRect(int leftCol, int topRow, int rightCol, int bottomRow, RECT* rect);
 

@@ -49,6 +49,12 @@ public:
     int GetRowHeight(int) const override { return 20; }
     int GetHeadingRowHeight(int) const override { return 20; }
     int GetJoinedRange(int*, int*, int*, int*) override { return 2; }
+    int GetJoinedCellRect(int, int, RECT* rect) override {
+        *rect = RECT{0, 0, 75, 20};
+        return 0;
+    }
+    // No window here: the list window is tried on a real control (tests/grid/core).
+    CWnd* GetCellView() override { return nullptr; }
     CellType* GetCellType(int) override { return &normal; }
     int FindTextToLeft(int*, int) override { return 1; }
     int NotifyCellTypeEvent(int typeId, int col, int row, int event, LPARAM parameter) override {
@@ -220,6 +226,23 @@ TEST(DropListCellType, DoubleClickOnTheButtonIsAPress) {
     EXPECT_EQ(type.DoubleClick(3, 4, &rect, &onButton), 1);
     EXPECT_EQ(type.DoubleClick(3, 4, &rect, &beside), 0);
     EXPECT_EQ(type.presses, (std::vector<std::vector<int>>{{3, 4, 1}}));
+}
+
+TEST(DropListCellType, AReleaseLiftsTheButtonAndThePressAfterADismissalOnlyCloses) {
+    FakeGrid grid;
+    TestDropList type;
+    type.grid = &grid;
+    RECT rect{0, 0, 100, 20};
+    POINT point{50, 10};
+    EXPECT_EQ(type.DropListCellType::LeftClick(5, 6, 0, &rect, &point), 0);
+    type.PressButton({84, 0, 100, 20}, -2, -2);
+    EXPECT_EQ(type.DropListCellType::LeftClick(5, 6, 0, &rect, &point), 1);
+    EXPECT_EQ(type.ButtonDown(), 0);
+    EXPECT_EQ(grid.redrawn, (std::vector<std::pair<int, int>>{{5, 6}}));
+
+    EXPECT_EQ(type.DropListCellType::LeftClick(5, 6, 1, &rect, &point), 0);
+    EXPECT_EQ(type.DropCol(), -1);
+    EXPECT_TRUE(grid.events.empty()); // nothing dropped
 }
 
 TEST(DropListCellType, HeldButtonFollowsTheMouseAndLeavingTheCellClosesTheList) {
