@@ -3,6 +3,7 @@
 
 #include "grid/core/GridCtrl.h"
 #include "grid/windows/GridHScroll.h"
+#include "grid/windows/GridView.h"
 #include "grid/windows/GridVScroll.h"
 
 namespace {
@@ -138,9 +139,10 @@ int GridCtrl::EnableHScrollHints(int flag) {
     return StoreFlag(sheet->hScrollHintsEnabled, flag);
 }
 
-// The view's off-screen buffer comes with its painting; the mode is what it will read.
+// A bitmap that could not be made leaves the view in direct mode, which is no error here.
 int GridCtrl::SetDoubleBufferMode(int mode) {
     sheet->doubleBufferMode = mode;
+    view->SetDoubleBuffer(mode);
     return 0;
 }
 
