@@ -1,0 +1,6 @@
+#include "parcel/CallState.h"
+
+ParcelDialog* ActiveDialog = nullptr;
+int CancelPressed = 0;
+TableCopy LastTable;
+std::string ModulePath;
