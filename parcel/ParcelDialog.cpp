@@ -98,7 +98,7 @@ void ParcelDialog::FitToScreen() {
     // Delete Row is not among them: it stays where it is.
     const struct {
         int id, a, b;
-    } controls[] = {{GridControl, 0, 0}, {IDCANCEL, 5, 5}, {LabelControl, 0, 0},
+    } controls[] = {{GridControl, 0, 0}, {IDCANCEL, 5, 5},   {LabelControl, 0, 0},
                     {IDOK, 5, 5},        {SaveButton, 5, 5}, {LoadButton, 5, 5}};
     for (const auto& c : controls) {
         CWnd* control = GetDlgItem(c.id);

@@ -5,12 +5,11 @@
 // write, which NotifyCellWrite sees before the grid stores it (quantity, flags, drop-downs, a
 // new blank row, the collapse under "*", the renumbering), then the grid's store.
 
-#include "parcel/ParcelGrid.h"
-
 #include "parcel/CallState.h"
 #include "parcel/FlashLabel.h"
 #include "parcel/NumberChain.h"
 #include "parcel/ParcelDialog.h"
+#include "parcel/ParcelGrid.h"
 #include "platform/base/MbString.h"
 
 BEGIN_MESSAGE_MAP(ParcelGrid, GridCtrl)

@@ -1,9 +1,8 @@
 // The books on the stock: which layers are taken, what is left for the catch-all row, and what
 // the Layer drop-down of each row offers. Names compare exactly, byte for byte.
 
-#include "parcel/ParcelGrid.h"
-
 #include "parcel/NumberChain.h"
+#include "parcel/ParcelGrid.h"
 
 #include <cstdlib>
 #include <string>

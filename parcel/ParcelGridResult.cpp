@@ -2,12 +2,11 @@
 // list of four strings. A table with at most two grid rows is wrapped in one more list, so
 // that LISP sees a list of rows either way.
 
-#include "parcel/ParcelGrid.h"
-
 #include "host/ads/AdsChains.h"
 #include "host/ads/AdsCodes.h"
 #include "host/ads/AdsLisp.h"
 #include "parcel/FlashLabel.h"
+#include "parcel/ParcelGrid.h"
 #include "shell/ads_list_user.h"
 
 #include <cstdio>

@@ -1,11 +1,11 @@
 // Typed numbers: a row starts at or above where the row above ends, the rows below follow the
 // chain, and a refused number comes back with an alert and an open editor.
 
-#include "tests/parcel/ParcelTable.h"
+#include "parcel/NumberChain.h"
 
 #include "parcel/CallState.h"
-#include "parcel/NumberChain.h"
 #include "platform/user/Input.h"
+#include "tests/parcel/ParcelTable.h"
 
 #include <gtest/gtest.h>
 

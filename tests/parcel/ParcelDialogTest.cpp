@@ -2,14 +2,13 @@
 // Cancel asks first (also from a press on the button while a number is being typed), and the
 // dialog's look: the template, the fixed-pitch font, the red status line, the fit to the screen.
 
-#include "tests/parcel/ParcelTable.h"
-
 #include "parcel/CallState.h"
 #include "parcel/WindowSettings.h"
 #include "platform/afx/CDC.h"
 #include "platform/afx/CFont.h"
 #include "platform/backend/HeadlessBackend.h"
 #include "platform/user/Input.h"
+#include "tests/parcel/ParcelTable.h"
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -103,11 +102,11 @@ TEST_F(ParcelDialogTest, DeleteRowStaysOffUntilTheCurrentCellMoves) {
     std::vector<bool> enabled;
     auto look = [&] { enabled.push_back(table.DeleteRowEnabled()); };
     Run({[&] {
-        look();
-        table.Click(0, 0);
-        look();
-        Press(ParcelGrid::DeleteRowButton);
-    },
+             look();
+             table.Click(0, 0);
+             look();
+             Press(ParcelGrid::DeleteRowButton);
+         },
          [&] {
              look();
              table.Click(1, 0);

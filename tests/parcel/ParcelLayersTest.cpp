@@ -1,9 +1,8 @@
 // Picks in the Layer column: quantities follow, the drop-downs offer only free layers, "*"
 // takes what is left and collapses the rows below it, and Delete Row gives a layer back.
 
-#include "tests/parcel/ParcelTable.h"
-
 #include "platform/backend/HeadlessBackend.h"
+#include "tests/parcel/ParcelTable.h"
 
 #include <gtest/gtest.h>
 

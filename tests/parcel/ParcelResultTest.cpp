@@ -1,10 +1,9 @@
 // The table read back for LISP: the list of rows of four strings, the wrapping of short
 // tables, and the refusals of an incomplete table in the status line.
 
-#include "tests/parcel/ParcelTable.h"
-
 #include "host/lisp/LispPrinter.h"
 #include "tests/host/TestModule.h"
+#include "tests/parcel/ParcelTable.h"
 
 #include <gtest/gtest.h>
 
@@ -49,8 +48,9 @@ TEST_F(ParcelResult, ThreeRowsOrMoreAreTheRowListsOneBehindTheOther) {
     Open({{"A", "12", "T1", "1"}, {"B", "7", "T2", "13"}, {"*", "30", "T1", "20"}});
     EXPECT_EQ(Collect(), "((\"A\" \"12\" \"T1\" \"1\") (\"B\" \"7\" \"T2\" \"13\") "
                          "(\"*\" \"30\" \"T1\" \"20\"))");
-    EXPECT_EQ(Stored(), (std::vector<ParcelRow>{
-                            {"A", "12", "T1", "1"}, {"B", "7", "T2", "13"}, {"*", "30", "T1", "20"}}));
+    EXPECT_EQ(Stored(),
+              (std::vector<ParcelRow>{
+                  {"A", "12", "T1", "1"}, {"B", "7", "T2", "13"}, {"*", "30", "T1", "20"}}));
     for (int col = 0; col < 4; ++col) EXPECT_EQ(grid.ColumnWidths[col], grid.GetColWidth(col));
 }
 

@@ -1,10 +1,9 @@
 // The table built from its stores: the default row of a fresh call, the blank row behind a
 // table that doesn't end in "*", the column widths, and a second setup over a live table.
 
-#include "tests/parcel/ParcelTable.h"
-
 #include "parcel/CallState.h"
 #include "parcel/WindowSettings.h"
+#include "tests/parcel/ParcelTable.h"
 
 #include <cstdio>
 #include <gtest/gtest.h>

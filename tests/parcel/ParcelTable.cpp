@@ -47,8 +47,7 @@ ParcelTable::~ParcelTable() {
     std::filesystem::remove_all(folder);
 }
 
-void ParcelTable::Stock(const std::vector<std::pair<std::string, int>>& layers,
-                        std::string types) {
+void ParcelTable::Stock(const std::vector<std::pair<std::string, int>>& layers, std::string types) {
     for (const auto& [name, count] : layers) {
         grid->Layers.Add(name);
         grid->Counts.Add(name == "*" ? "" : std::to_string(count));
