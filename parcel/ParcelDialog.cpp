@@ -1,11 +1,15 @@
 #include "parcel/ParcelDialog.h"
 
+#include "host/ads/AdsCodes.h"
+#include "host/ads/AdsServices.h"
 #include "parcel/CallState.h"
+#include "parcel/TableFile.h"
 #include "parcel/WindowSettings.h"
 #include "platform/afx/AfxApp.h"
 #include "platform/afx/CDC.h"
 #include "platform/afx/CFont.h"
 
+#include <cstdlib>
 #include <cstring>
 
 namespace {
@@ -37,6 +41,18 @@ DialogTemplate Layout() {
     return t;
 }
 
+// The table file the user picks in the host's file dialog, for writing (flags 3) or reading
+// (0); false when the user cancelled.
+bool ChooseTableFile(int flags, std::string& path) {
+    const std::string name = TableFile::DefaultName();
+    resbuf chosen{};
+    if (acedGetFileD("Kerv table area", name.c_str(), "tab", flags, &chosen) != RTNORM)
+        return false;
+    if (chosen.restype == RTSTR && chosen.resval.rstring) path = chosen.resval.rstring;
+    std::free(chosen.resval.rstring);
+    return !path.empty();
+}
+
 // The shrink factor of FitToScreen, cut towards zero.
 int Shrunk(LONG v) {
     return static_cast<int>(0.4 * v);
@@ -45,6 +61,8 @@ int Shrunk(LONG v) {
 } // namespace
 
 BEGIN_MESSAGE_MAP(ParcelDialog, CDialog)
+ON_BN_CLICKED(SaveButton, OnSaveTable)
+ON_BN_CLICKED(LoadButton, OnLoadTable)
 ON_BN_CLICKED(ParcelGrid::DeleteRowButton, OnDeleteRow)
 ON_WM_CTLCOLOR()
 END_MESSAGE_MAP()
@@ -130,6 +148,32 @@ void ParcelDialog::OnDeleteRow() {
     grid.RedrawAll();
     grid.RemoveRow(1);
     EnableDeleteRow(FALSE);
+}
+
+void ParcelDialog::OnSaveTable() {
+    // A table that OK would refuse can't be saved; the label has told why.
+    if (!grid.CollectResult()) return;
+    std::string path;
+    if (!ChooseTableFile(3, path)) return;
+    if (!TableFile(grid.Layers, grid.UsedFlags, grid.Rows, grid.TypeChoices).Save(path))
+        acedAlert("Can't open file for writing!");
+}
+
+void ParcelDialog::OnLoadTable() {
+    // The click on Load ended a number edit that was refused, and its alert has just been
+    // seen: this click does nothing more.
+    if (grid.NumberRefused) {
+        grid.NumberRefused = 0;
+        return;
+    }
+    std::string path;
+    if (!ChooseTableFile(0, path)) return;
+    SetFocus();
+    if (!TableFile(grid.Layers, grid.UsedFlags, grid.Rows, grid.TypeChoices).Load(path)) {
+        acedAlert("Can't open file for reading!");
+        return;
+    }
+    grid.NotifyGridCreated();
 }
 
 void ParcelDialog::EnableDeleteRow(BOOL enable) {

@@ -1,7 +1,7 @@
 #pragma once
 // The modal dialog of a KERVDIALOG call: the parcel table, the status line under it and the
-// buttons OK, Cancel and Delete Row. OK accepts the table only when CollectResult passes it,
-// and then keeps the column widths in the settings file; Cancel asks first. The dialog's
+// buttons OK, Cancel, Save, Load and Delete Row. OK accepts the table only when CollectResult
+// passes it, and then keeps the column widths in the settings file; Cancel asks first. The dialog's
 // template, id 130, belongs to the module's resources.
 //
 // The table reaches the dialog through ActiveDialog: button 1004, the label and OnCancel.
@@ -28,6 +28,10 @@ public:
     void OnOK() override;
     void OnCancel() override;
     void OnDeleteRow();
+    // The table file beside the drawing: Save only what OK would accept; Load replaces the
+    // stock and the rows by the file's and sets the table up anew.
+    void OnSaveTable();
+    void OnLoadTable();
     void EnableDeleteRow(BOOL enable);
 
     ParcelGrid grid;

@@ -10,6 +10,7 @@
 #include "platform/user/Input.h"
 #include "tests/parcel/ParcelTable.h"
 
+#include <filesystem>
 #include <functional>
 #include <gtest/gtest.h>
 
@@ -165,4 +166,30 @@ TEST_F(ParcelDialogTest, OnlyADialogWithinTenPixelsOfTheScreenIsShrunk) {
     EXPECT_NE(measure(natural.cx + 11, natural.cy + 10).cy, natural.cy);
     EXPECT_NE(measure(natural.cx + 10, natural.cy + 11).cx, natural.cx);
     ActiveDialog = &dialog;
+}
+
+TEST_F(ParcelDialogTest, SaveAndLoadBringTheRowsBackWithoutQuantitiesOrNumbers) {
+    Rows before, loaded;
+    const std::string file = table.folder + "plan.tab";
+    const INT_PTR result = Run({[&] {
+                                    grid.SetCellText(2, 0, "T1");
+                                    before = table.Table();
+                                    Press(1002);
+                                },
+                                // The host's file dialog offers the drawing's name.
+                                [] { plat::PushKey(VK_RETURN); },
+                                [&] {
+                                    EXPECT_TRUE(std::filesystem::exists(file));
+                                    grid.SetCellText(2, 0, "");
+                                    Press(1003);
+                                },
+                                [] { plat::PushKey(VK_RETURN); },
+                                [&] {
+                                    loaded = table.Table();
+                                    Press(IDOK);
+                                }});
+    EXPECT_EQ(result, IDOK);
+    ASSERT_FALSE(before.empty());
+    EXPECT_EQ(before[0].substr(0, 2), "*|");
+    EXPECT_EQ(loaded, (Rows{"*|0|T1|1"}));
 }
