@@ -4,7 +4,6 @@
 #include "grid/cells/CheckBoxCellType.h"
 #include "grid/windows/GridView.h"
 #include "grid/windows/TopHeading.h"
-#include "platform/user/Input.h"
 #include "tests/grid/core/GridHost.h"
 
 #include <algorithm>
@@ -30,15 +29,6 @@ protected:
         return asked;
     }
     CWnd* Editor() { return grid.GetCellEditor(); }
-    // Keys and characters as the user types them, into whatever has the focus.
-    static void Type(const std::string& text) {
-        for (char c : text) plat::PushChar(c);
-        GridHost::Pump();
-    }
-    static void Key(int vk, bool shift = false) {
-        plat::PushKey(vk, shift);
-        GridHost::Pump();
-    }
     // The editor's rectangle in its parent's client coordinates.
     bool EditorCovers(CWnd* parent, const RECT& cell) {
         RECT r;
@@ -67,13 +57,13 @@ TEST_F(Edit, OpensOverTheCellAndWalksOnWithEnter) {
     // The cell's text came first and was selected, so the key replaced it.
     EXPECT_EQ(Editor()->GetWindowText(), "x");
 
-    Type("y");
-    Key(VK_RETURN);
+    GridHost::Type("y");
+    GridHost::Key(VK_RETURN);
     EXPECT_STREQ(grid.GetCellText(2, 1), "xy");
     EXPECT_EQ(grid.GetCurrentRow(), 2);
     EXPECT_EQ(Editor()->GetWindowText(), "r2c2");
-    Type("z");
-    Key(VK_ESCAPE);
+    GridHost::Type("z");
+    GridHost::Key(VK_ESCAPE);
     EXPECT_STREQ(grid.GetCellText(2, 2), "r2c2");
     EXPECT_FALSE(Editor()->IsWindowVisible());
     EXPECT_EQ(CWnd::GetFocus(), grid.view.get());
@@ -110,13 +100,13 @@ TEST_F(Edit, RefusalsLeaveNoEditorButTheMoveStands) {
 TEST_F(Edit, AVetoKeepsTheSessionAndCancellingWritesNothing) {
     ASSERT_EQ(grid.StartEdit(1, 2, 0), 0);
     grid.allowEditFinish = 0;
-    Type("k");
-    Key(VK_RETURN);
+    GridHost::Type("k");
+    GridHost::Key(VK_RETURN);
     EXPECT_EQ(CWnd::GetFocus(), Editor());
     EXPECT_EQ(Editor()->GetWindowText(), "k");
     EXPECT_STREQ(grid.GetCellText(1, 2), "r2c1");
     grid.allowEditFinish = 1;
-    Key(VK_ESCAPE);
+    GridHost::Key(VK_ESCAPE);
     EXPECT_STREQ(grid.GetCellText(1, 2), "r2c1");
     EXPECT_EQ(Questions(), (Strings{"EditStart 1 2", "EditFinish 1 2 0 k", "EditFinish 1 2 1 k"}));
 
@@ -125,11 +115,11 @@ TEST_F(Edit, AVetoKeepsTheSessionAndCancellingWritesNothing) {
     CEdit outside;
     outside.Create(WS_CHILD | WS_VISIBLE, RECT{0, 0, 10, 10}, &host.window, 77);
     ASSERT_EQ(grid.StartEdit(0, 0, 0), 0);
-    Type("gone");
+    GridHost::Type("gone");
     outside.SetFocus();
     EXPECT_STREQ(grid.GetCellText(0, 0), "r0c0");
     ASSERT_EQ(grid.StartEdit(0, 0, 0), 0);
-    Type("kept");
+    GridHost::Type("kept");
     grid.view->SetFocus();
     EXPECT_STREQ(grid.GetCellText(0, 0), "kept");
 
@@ -156,13 +146,13 @@ TEST_F(Edit, ALentEditorTakesThePlaceOfTheControlsOwn) {
 
 TEST_F(Edit, TheWalkComesRoundTheEdgesAndStepsOverJoins) {
     ASSERT_EQ(grid.StartEdit(3, 3, 0), 0);
-    Type("a");
-    Key(VK_TAB);
+    GridHost::Type("a");
+    GridHost::Key(VK_TAB);
     EXPECT_EQ(grid.GetCurrentCol(), 0);
     EXPECT_EQ(grid.GetCurrentRow(), 3);
     grid.onContinue = [](int* nextCol, int*) { *nextCol = 2; };
-    Type("b");
-    Key(VK_RETURN);
+    GridHost::Type("b");
+    GridHost::Key(VK_RETURN);
     grid.onContinue = nullptr;
     EXPECT_EQ(grid.GetCurrentCol(), 2);
     EXPECT_EQ(grid.GetCurrentRow(), 0);
@@ -171,29 +161,29 @@ TEST_F(Edit, TheWalkComesRoundTheEdgesAndStepsOverJoins) {
                                     "EditStart 2 0"}));
     EXPECT_STREQ(grid.GetCellText(3, 3), "a");
     EXPECT_STREQ(grid.GetCellText(0, 3), "b");
-    Key(VK_ESCAPE);
+    GridHost::Key(VK_ESCAPE);
 
     // From a join's first column a step into it lands behind it; a step from elsewhere into
     // the join lands on its first cell.
     grid.EnableJoins(1);
     grid.JoinCells(1, 1, 2, 1);
     ASSERT_EQ(grid.StartEdit(1, 1, 0), 0);
-    Key(VK_TAB);
+    GridHost::Key(VK_TAB);
     EXPECT_EQ(grid.GetCurrentCol(), 3);
-    Key(VK_TAB, true);
+    GridHost::Key(VK_TAB, true);
     EXPECT_EQ(grid.GetCurrentCol(), 1);
     grid.allowEditContinue = 0;
-    Key(VK_TAB);
+    GridHost::Key(VK_TAB);
     EXPECT_FALSE(Editor()->IsWindowVisible());
 }
 
 TEST_F(Edit, UpAndDownLeaveUntilTheEditorHasGrown) {
     ASSERT_EQ(grid.StartEdit(0, 1, 0), 0);
-    Key(VK_DOWN);
+    GridHost::Key(VK_DOWN);
     EXPECT_EQ(grid.GetCurrentRow(), 2);
     RECT before;
     Editor()->GetWindowRect(&before);
-    Type(std::string(12, 'w'));
+    GridHost::Type(std::string(12, 'w'));
     RECT after;
     Editor()->GetWindowRect(&after);
     grid.view->ScreenToClient(&before);
@@ -202,22 +192,22 @@ TEST_F(Edit, UpAndDownLeaveUntilTheEditorHasGrown) {
     EXPECT_GT(after.right, before.right);
     EXPECT_EQ((after.right + 1) % 75, 0);
     EXPECT_EQ(after.bottom, before.bottom);
-    Key(VK_UP);
+    GridHost::Key(VK_UP);
     EXPECT_EQ(grid.GetCurrentRow(), 2);
     EXPECT_TRUE(Editor()->IsWindowVisible());
-    Key(VK_RETURN);
+    GridHost::Key(VK_RETURN);
     EXPECT_EQ(grid.GetCurrentRow(), 3);
-    Key(VK_ESCAPE);
+    GridHost::Key(VK_ESCAPE);
 
     static_cast<GridEdit*>(Editor())->SetGrowWithText(0);
     ASSERT_EQ(grid.StartEdit(0, 1, 0), 0);
     Editor()->GetWindowRect(&before);
-    Type(std::string(40, 'w'));
+    GridHost::Type(std::string(40, 'w'));
     Editor()->GetWindowRect(&after);
     EXPECT_TRUE(EqualRect(&before, &after));
-    Key(VK_UP);
+    GridHost::Key(VK_UP);
     EXPECT_EQ(grid.GetCurrentRow(), 0);
-    Key(VK_ESCAPE);
+    GridHost::Key(VK_ESCAPE);
 }
 
 TEST_F(Edit, AHeadingCellIsEditedInItsHeadingAndNeverWalksOn) {
@@ -229,8 +219,8 @@ TEST_F(Edit, AHeadingCellIsEditedInItsHeadingAndNeverWalksOn) {
     EXPECT_EQ(cell.left, grid.GetColWidth(0));
     EXPECT_EQ(cell.bottom, grid.GetTopHeadingHeight());
     EXPECT_TRUE(EditorCovers(heading, cell));
-    Type("Title");
-    Key(VK_TAB);
+    GridHost::Type("Title");
+    GridHost::Key(VK_TAB);
     EXPECT_STREQ(grid.GetCellText(1, -1), "Title");
     EXPECT_FALSE(Editor()->IsWindowVisible());
     EXPECT_EQ(Questions(), (Strings{"EditStart 1 -1", "EditFinish 1 -1 0 Title"}));

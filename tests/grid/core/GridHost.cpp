@@ -1,6 +1,7 @@
 #include "tests/grid/core/GridHost.h"
 
 #include "platform/backend/HeadlessBackend.h"
+#include "platform/user/Input.h"
 
 GridHost::GridHost(int width, int height) {
     plat::Headless();
@@ -26,6 +27,16 @@ void GridHost::Pump() {
         TranslateMessage(&msg);
         DispatchMessage(&msg);
     }
+}
+
+void GridHost::Type(const std::string& text) {
+    for (char c : text) plat::PushChar(c);
+    Pump();
+}
+
+void GridHost::Key(int vk, bool shift) {
+    plat::PushKey(vk, shift);
+    Pump();
 }
 
 void Fill(GridCtrl& grid, int cols, int rows) {

@@ -4,6 +4,8 @@
 #include "platform/afx/CWnd.h"
 #include "tests/grid/core/RecordingGrid.h"
 
+#include <string>
+
 class GridHost {
 public:
     // The grid's client area is width by height; the grid has no border.
@@ -16,6 +18,10 @@ public:
     void Resize(int width, int height);
     // Runs the messages that are waiting, paints among them.
     static void Pump();
+    // Characters and keys as the user types them, into whatever has the focus; each runs the
+    // messages it causes.
+    static void Type(const std::string& text);
+    static void Key(int vk, bool shift = false);
 
     CWnd window;
     RecordingGrid grid;

@@ -3,7 +3,6 @@
 
 #include "grid/windows/MaskedEdit.h"
 
-#include "platform/user/Input.h"
 #include "tests/grid/core/GridHost.h"
 
 #include <gtest/gtest.h>
@@ -18,22 +17,14 @@ protected:
         grid.lentEditor = &editor;
         for (int row = 0; row < 4; ++row) grid.SetCellMask(1, row, "999999");
     }
-    static void Type(const std::string& text) {
-        for (char c : text) plat::PushChar(c);
-        GridHost::Pump();
-    }
-    static void Key(int vk) {
-        plat::PushKey(vk);
-        GridHost::Pump();
-    }
     // The text a mask makes of `text`, through a session on a cell with that mask.
     std::string Typed(const char* mask, const std::string& text) {
         grid.SetCellText(0, 0, "");
         grid.SetCellMask(0, 0, mask);
         EXPECT_EQ(grid.StartEdit(0, 0, 0), 0);
-        Type(text);
+        GridHost::Type(text);
         std::string shown = editor.GetWindowText();
-        Key(VK_ESCAPE);
+        GridHost::Key(VK_ESCAPE);
         return shown;
     }
 
@@ -72,9 +63,9 @@ TEST_F(Masked, TypedCharactersAreHeldAgainstTheirPositions) {
     // Without a mask anything goes, up to the length that the last mask ("LL") set.
     grid.SetCellText(2, 0, "");
     ASSERT_EQ(grid.StartEdit(2, 0, 0), 0);
-    Type("x-1");
+    GridHost::Type("x-1");
     EXPECT_EQ(editor.GetWindowText(), "x-");
-    Key(VK_ESCAPE);
+    GridHost::Key(VK_ESCAPE);
 }
 
 TEST_F(Masked, TheNumberColumnsSession) {
@@ -82,21 +73,21 @@ TEST_F(Masked, TheNumberColumnsSession) {
     ASSERT_EQ(grid.StartEdit(1, 1, 0), 0);
     EXPECT_EQ(editor.GetWindowText(), "124");
     // Tab stays in the cell.
-    Key(VK_TAB);
+    GridHost::Key(VK_TAB);
     EXPECT_EQ(CWnd::GetFocus(), &editor);
-    Key(VK_RETURN);
+    GridHost::Key(VK_RETURN);
     EXPECT_STREQ(grid.GetCellText(1, 1), "124");
     EXPECT_EQ(grid.GetCurrentRow(), 2);
 
     // The whole number is selected: a letter deletes it and is refused.
-    Type("x");
+    GridHost::Type("x");
     EXPECT_EQ(editor.GetWindowText(), "");
-    Type("9");
-    Key(VK_UP);
+    GridHost::Type("9");
+    GridHost::Key(VK_UP);
     EXPECT_STREQ(grid.GetCellText(1, 2), "9");
     EXPECT_EQ(grid.GetCurrentRow(), 1);
-    Type("55");
-    Key(VK_ESCAPE);
+    GridHost::Type("55");
+    GridHost::Key(VK_ESCAPE);
     EXPECT_STREQ(grid.GetCellText(1, 1), "124");
     EXPECT_FALSE(editor.IsWindowVisible());
 
@@ -105,7 +96,7 @@ TEST_F(Masked, TheNumberColumnsSession) {
     CEdit outside;
     outside.Create(WS_CHILD | WS_VISIBLE, RECT{0, 0, 10, 10}, &host.window, 77);
     ASSERT_EQ(grid.StartEdit(1, 3, 0), 0);
-    Type("77");
+    GridHost::Type("77");
     outside.SetFocus();
     EXPECT_STREQ(grid.GetCellText(1, 3), "77");
 }
