@@ -13,6 +13,7 @@
 class CFindReplaceDialog : public CWnd {
 public:
     CFindReplaceDialog();
+    using CWnd::Create;
 
     // A find dialog alone, or one that replaces too; FALSE when the window can't be made.
     BOOL Create(BOOL findDialogOnly, const char* findWhat, const char* replaceWith = nullptr,
