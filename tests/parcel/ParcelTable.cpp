@@ -8,6 +8,7 @@
 
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 namespace {
 
@@ -18,7 +19,8 @@ const HINSTANCE TestModuleHandle = reinterpret_cast<HINSTANCE>(0x7e57);
 
 ParcelTable::ParcelTable() {
     plat::Headless();
-    folder = testing::TempDir() + "parcel-table/";
+    // Each test runs in a process of its own, maybe beside the others.
+    folder = testing::TempDir() + "parcel-table-" + std::to_string(::getpid()) + "/";
     std::filesystem::remove_all(folder);
     std::filesystem::create_directories(folder);
     ModulePath = folder + "kervgrid.so";

@@ -9,6 +9,7 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <sstream>
+#include <unistd.h>
 
 namespace {
 
@@ -26,7 +27,9 @@ protected:
     }
     std::string Path(const std::string& name) { return (folder / name).string(); }
 
-    const std::filesystem::path folder = std::filesystem::temp_directory_path() / "parcel_tables";
+    // Each test runs in a process of its own, maybe beside the others.
+    const std::filesystem::path folder =
+        std::filesystem::temp_directory_path() / ("parcel_tables_" + std::to_string(::getpid()));
     StringStore layers{20};
     IntStore used{20};
     RowStore rows{20};

@@ -9,6 +9,7 @@
 
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 namespace {
 
@@ -20,7 +21,8 @@ struct Band {
 class Print : public ::testing::Test {
 protected:
     void SetUp() override {
-        const auto pdf = std::filesystem::temp_directory_path() / "gridcore_print.pdf";
+        const auto pdf = std::filesystem::temp_directory_path() /
+                         ("gridcore_print_" + std::to_string(::getpid()) + ".pdf");
         // 96 dots per inch: a printer pixel is about a screen pixel.
         printerDC.Attach(CreatePrinterDC(pdf.string().c_str(), 96, 210, 297));
         Fill(grid, 6, 10);
