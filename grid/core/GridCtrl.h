@@ -565,6 +565,7 @@ private:
     }
     void GiveChildrenSheet();
     void Retire(PtrList& list, int index);
+    void RetireAll(PtrList& list);
     void RebuildPens();
     // The next column or row on view after c, jumping from the locks to the scroll position.
     int NextColOnView(int c) const { return c + 1 == sheet->lockedCols ? sheet->leftCol : c + 1; }

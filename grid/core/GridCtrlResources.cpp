@@ -83,6 +83,11 @@ void GridCtrl::Retire(PtrList& list, int index) {
     list.RemoveAt(index);
 }
 
+void GridCtrl::RetireAll(PtrList& list) {
+    for (int i = 0; i < list.GetCapacity(); ++i) Retire(list, i);
+    list.RemoveAll();
+}
+
 int GridCtrl::ReleaseFont(int index) {
     if (!fonts.GetAt(index)) return 0;
     const int holders = fonts.GetTag(index) - 1;
@@ -92,8 +97,7 @@ int GridCtrl::ReleaseFont(int index) {
 }
 
 int GridCtrl::ClearFonts() {
-    for (int i = 0; i < fonts.GetCapacity(); ++i) Retire(fonts, i);
-    fonts.RemoveAll();
+    RetireAll(fonts);
     return 0;
 }
 
@@ -131,8 +135,7 @@ int GridCtrl::RemoveBitmap(int index) {
 }
 
 int GridCtrl::ClearBitmaps() {
-    for (int i = 0; i < bitmaps.GetCapacity(); ++i) Retire(bitmaps, i);
-    bitmaps.RemoveAll();
+    RetireAll(bitmaps);
     return 0;
 }
 

@@ -54,10 +54,19 @@ int SheetTabs::TabWidth(const std::string& text) {
     return width + 10;
 }
 
+SheetTabs::Tab SheetTabs::NewTab(const std::string& text, int id) {
+    return Tab{text, TabWidth(text), id, GetSysColor(COLOR_WINDOWTEXT), GetSysColor(COLOR_BTNFACE)};
+}
+
+int SheetTabs::TabLeft(int index) const {
+    int left = 0;
+    for (int i = 0; i < index; ++i) left += tabs[static_cast<size_t>(i)].width;
+    return left;
+}
+
 int SheetTabs::AddTab(const std::string& text, int id) {
     if (tabCount >= MaxTabs) return 1;
-    tabs[static_cast<size_t>(tabCount++)] =
-        Tab{text, TabWidth(text), id, GetSysColor(COLOR_WINDOWTEXT), GetSysColor(COLOR_BTNFACE)};
+    tabs[static_cast<size_t>(tabCount++)] = NewTab(text, id);
     UpdateMaxScroll();
     return 0;
 }
@@ -68,7 +77,7 @@ int SheetTabs::InsertTab(int position, const std::string& text, int id) {
     if (tabCount >= MaxTabs) return 1;
     auto at = tabs.begin() + position;
     std::move_backward(at, tabs.begin() + tabCount, tabs.begin() + tabCount + 1);
-    *at = Tab{text, TabWidth(text), id, GetSysColor(COLOR_WINDOWTEXT), GetSysColor(COLOR_BTNFACE)};
+    *at = NewTab(text, id);
     ++tabCount;
     // The same tab stays current.
     if (position <= currentTab) ++currentTab;
@@ -95,8 +104,7 @@ int SheetTabs::DeleteTab(int id) {
 int SheetTabs::SelectTab(int id) {
     const int index = IndexOf(id);
     if (index < 0) return 0;
-    int x = -5;
-    for (int i = 0; i < index; ++i) x += tabs[static_cast<size_t>(i)].width;
+    int x = TabLeft(index) - 5;
     currentTab = index;
     x = std::max(x, 0);
     const int room = sheet->tabStripWidth - 2 * tabs[static_cast<size_t>(index)].width - 10;
@@ -253,8 +261,7 @@ void SheetTabs::OnLButtonDown(UINT flags, CPoint point) {
         isSizing = 1;
     } else if (const int index = TabAt(point.x); index >= 0) {
         currentTab = index;
-        int left = arrowWidth - scrollPos;
-        for (int i = 0; i < index; ++i) left += tabs[static_cast<size_t>(i)].width;
+        const int left = arrowWidth - scrollPos + TabLeft(index);
         const int right = left + tabs[static_cast<size_t>(index)].width + 19;
         RECT client;
         GetClientRect(&client);

@@ -61,6 +61,10 @@ private:
     // The tab under x, or -1.
     int TabAt(int x) const;
     int TabWidth(const std::string& text);
+    // A tab in the system's colours.
+    Tab NewTab(const std::string& text, int id);
+    // Where the tab starts, counted from the first tab's start.
+    int TabLeft(int index) const;
     void UpdateMaxScroll();
     void DrawTab(CDC& dc, const Tab& tab, int left, int top, int bottom);
 
